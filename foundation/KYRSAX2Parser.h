@@ -1,0 +1,50 @@
+// KYRSAX2Parser: the streaming XML reader.
+//
+// It calls back on the caller's thread as the file is read. The same events fill an immutable
+// document (foundation/xml/XmlDocument.h) that lives as long as the parser, so that a later tree
+// reading of the unchanged file needs no second tokenising and the texts of the events may be kept
+// as borrowed views for as long as the parser lives.
+#pragma once
+
+#include <memory>
+
+#include "foundation/KYRFile.h"
+#include "foundation/KYRLog.h"
+#include "foundation/KYRString.h"
+#include "foundation/KYRStringArray.h"
+
+class XmlDocument;
+
+class KYR_EXPORT KYRSAX2Parser {
+ public:
+  using StartCallback = void (*)(void* userData, const KYRString& tag, const KYRStringArray& attributes);
+  using EndCallback = void (*)(void* userData, const KYRString& tag);
+  using CharactersCallback = void (*)(void* userData, const KYRString& text);
+  using FourthCallback = void (*)(void* userData, const KYRString& target, const KYRString& data);
+
+  /// Any callback may be null. The fourth one receives processing instructions.
+  KYRSAX2Parser(void* userData, KYRLog* log, StartCallback start, EndCallback end,
+                CharactersCallback characters, FourthCallback fourth);
+  KYRSAX2Parser(const KYRSAX2Parser&) = delete;
+  KYRSAX2Parser& operator=(const KYRSAX2Parser&) = delete;
+  ~KYRSAX2Parser();
+
+  /// Streams the file. Tags and attribute names arrive as written, prefix included; attribute
+  /// names and values in turn. Tag and attributes are borrowed views that live as long as this
+  /// parser; character data may come in several calls for one element and lives for its call only.
+  /// Raises KYRException (file, line, column, reason) for a file that cannot be read, is not
+  /// well-formed (XML 1.0), is not valid in its encoding, or exceeds a limit; an exception out of
+  /// a callback passes through.
+  void parseFile(const KYRFile& file);
+
+  /// Where the parser stands: "line L, column C" of the "<" of the element last reported, both
+  /// from 1, columns in characters of the file as written. Empty before the first element.
+  KYRString getPosition() const;
+
+  /// The document that the last `parseFile` has filled; null before.
+  std::shared_ptr<const XmlDocument> getDocument() const noexcept;
+
+ private:
+  class State;
+  std::unique_ptr<State> state_;
+};
