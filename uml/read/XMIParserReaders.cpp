@@ -1,0 +1,148 @@
+// The readers: one body serves all 117 classes, driven by their plans. The three that differ, those
+// of the model and of two literals, stand beside it.
+#include "bridge/messages/KBI_UML2XMI.h"
+#include "uml/UMLCast.h"
+#include "uml/UMLClasses.h"
+#include "uml/UMLMetamodel.h"
+#include "uml/read/ClassPlan.h"
+#include "xmi/ReaderNames.h"
+#include "xmi/XMINames.h"
+#include "xmi/XMIParser.h"
+
+namespace {
+
+// A text for an object to keep: the document's texts outlive the objects, so they are only shown.
+KYRString keep(const KYRString& text) {
+  if (!text.isBorrowed()) return text;
+  KYRString view;
+  view.borrow(text);
+  return view;
+}
+
+void keepIn(KYRString& field, const KYRString& text) {
+  if (!text.isEmpty()) field = keep(text);
+}
+
+}  // namespace
+
+const KYRString& XMIParser::getAttribute(const KYRStringArray& attributes, const KYRString& name) {
+  // Steps by one, not two: a value equal to `name` is a match as well. Kept on purpose, see
+  // "AValueThatEqualsTheNameIsTakenAsAMatch" in AttributeScanTest.
+  for (unsigned int i = 0; i < attributes.getCount(); ++i) {
+    if (attributes.get(i).equals(name, false)) return attributes.get(i + 1);
+  }
+  return KYRString::getEmptyString();
+}
+
+bool XMIParser::isTrue(const KYRString& value) { return equalsIgnoringCase(value.view(), "TRUE"); }
+
+void XMIParser::readElement(const TagHandler& row, const KYRString& tag, const KYRStringArray&) {
+  readPlan(*row.plan, tag);
+}
+
+// A default value keeps its text, so "true" and "5" survive; elsewhere the literal has its value.
+void XMIParser::readLiteral(const TagHandler& row, const KYRString& tag, const KYRStringArray&) {
+  const bool isDefault = tag.view() == XMINames::defaultValue;
+  readPlan(isDefault ? ClassPlan::of(UMLLiteralString::kind) : *row.plan, tag);
+}
+
+void XMIParser::readModel(const TagHandler& row, const KYRString& tag, const KYRStringArray& attributes) {
+  modelSeen = true;
+  const ReaderNames& names = ReaderNames::get();
+  const KYRString& name = attribute(names.name);
+  if (!exporter.isEmpty() && !exporterVersion.isEmpty()) {
+    KBI_UML2XMI::UML2_I_TARGET_TOOL.log(*log, exporter, exporterVersion);
+  }
+  captureNamespaces(row, tag, attributes);
+  detectVersions();
+  const KYRString& xmiId = attribute(names.id);
+  const KYRString& id = xmiId.isEmpty() ? name : xmiId;
+  std::unique_ptr<UMLElement> object = makeObject(*row.plan, id, name);
+  patchRow();
+  // A second model element takes the place of the first as the result.
+  model = umlCast<UMLModel>(object.get());
+  keepIn(model->exporter, exporter);
+  keepIn(model->exporterVersion, exporterVersion);
+  keepIn(model->umlVersion, umlVersion);
+  completeObject(*row.plan, tag, std::move(object), ids.intern(id));
+}
+
+// A child row: with an xmi:idref the element is a mere reference, and nothing is made or pushed;
+// without one it is an element of the class that the reference declares.
+void XMIParser::readChild(const TagHandler& row, const KYRString& tag, const KYRStringArray&) {
+  const KYRString& idref = attribute(ReaderNames::get().idref);
+  if (idref.isEmpty()) {
+    readPlan(*row.plan, tag);
+  } else if (elementStack.back().id != IdTable::emptyId) {
+    noteLink(elementStack.back().id, ids.intern(idref), row.linkKind);
+  }
+}
+
+// A text row matches every object of its class, and those of derived classes; the text is stored
+// only in an object of exactly that class. The difference between the two tests is kept.
+void XMIParser::storeText(const TagHandler& row, const KYRString&) {
+  UMLElement* const current = getElement(0);
+  if (current == nullptr || current->getKind() != row.kind) return;
+  row.field->set(umlCastTo(current, row.kind), text, kinds);
+}
+
+void XMIParser::readPlan(const ClassPlan& plan, const KYRString& tag) {
+  const ReaderNames& names = ReaderNames::get();
+  const KYRString& id = attribute(names.id);
+  std::unique_ptr<UMLElement> object = makeObject(plan, id, attribute(names.name));
+  patchRow();
+  completeObject(plan, tag, std::move(object), ids.intern(id));
+}
+
+std::unique_ptr<UMLElement> XMIParser::makeObject(const ClassPlan& plan, const KYRString& id,
+                                                  const KYRString& name) {
+  const UMLMetamodel::ClassRow& row = UMLMetamodel::classRows[static_cast<unsigned int>(plan.kind)];
+  return std::unique_ptr<UMLElement>(row.make(keep(id), keep(name)));
+}
+
+void XMIParser::completeObject(const ClassPlan& plan, const KYRString& tag,
+                               std::unique_ptr<UMLElement> object, IdTable::Number id) {
+  readScalars(plan, *object);
+  noteReferences(plan, id);
+  UMLElement* const element = object.get();
+  objects.add(element, false, nullptr);
+  object.release();  // owned by `objects` from here on
+  ids.enter(id, element);
+  pushElement(element, id);
+  tieToParent(plan, tag, id);
+}
+
+// A missing attribute leaves the field as constructed, which is what its empty text would give.
+void XMIParser::readScalars(const ClassPlan& plan, UMLElement& element) {
+  for (const ClassPlan::Scalar& scalar : plan.scalars) {
+    const KYRString& value = attribute(scalar.attribute);
+    if (!value.isEmpty()) scalar.row->set(umlCastTo(&element, scalar.row->owner), value, kinds);
+  }
+}
+
+// The value is taken whole: one that lists several ids is a key that no object has.
+void XMIParser::noteReferences(const ClassPlan& plan, IdTable::Number id) {
+  for (const ClassPlan::Reference& reference : plan.references) {
+    const KYRString& value = attribute(reference.attribute);
+    if (!value.isEmpty()) noteLink(ids.intern(value), id, reference.linkKind);
+  }
+}
+
+void XMIParser::tieToParent(const ClassPlan& plan, const KYRString& tag, IdTable::Number id) {
+  if (elementStack.size() < 2) return;
+  const OpenElement& parent = elementStack[elementStack.size() - 2];
+  if (parent.id == IdTable::emptyId || id == IdTable::emptyId) return;
+  noteLink(parent.id, id, UMLMetamodel::ownedElementLink);
+  const int tagNumber = ReaderNames::get().find(tag.view());
+  if (tagNumber == ReaderNames::none) return;
+  const int parentKind = parent.element->getKind();
+  for (const ClassPlan::NestedRow& row : plan.nestedRows) {
+    if (row.tag == tagNumber && UMLLineage::isKindOf(parentKind, row.parentKind)) {
+      noteLink(parent.id, id, row.linkKind);
+    }
+  }
+}
+
+void XMIParser::noteLink(IdTable::Number first, IdTable::Number second, int kind) {
+  pendingLinks.push_back({first, second, kind});
+}

@@ -1,0 +1,19 @@
+// ReadObserver: what a host can learn of a read beyond its objects. None is set unless somebody
+// asks, and then nothing is computed for it.
+#pragma once
+
+#include "foundation/KYRString.h"
+
+class ReadObserver {
+ public:
+  /// What became of a noted reference.
+  enum class LinkResult { linked, firstMissing, secondMissing, wrongClass };
+
+  virtual ~ReadObserver() = default;
+  /// An element was skipped whole because its xmi:type is not in the type table.
+  virtual void skippedType(const KYRString& type, const KYRString& position) = 0;
+  /// An element matched no row, also one whose tag holds a ":" and is never reported in the log.
+  virtual void unknownTag(const KYRString& tag, const KYRString& position) = 0;
+  /// A reference was resolved or dropped.
+  virtual void link(const KYRString& first, const KYRString& second, int kind, LinkResult result) = 0;
+};

@@ -1,0 +1,126 @@
+// The parse as a whole, its stacks and its end.
+#include "xmi/XMIParser.h"
+
+#include "bridge/messages/KBI_UML2XMI.h"
+#include "uml/UMLClasses.h"
+#include "uml/UMLMetamodel.h"
+#include "xmi/DispatchRows.h"
+#include "xmi/ReadObserver.h"
+
+namespace {
+
+constexpr int unknownTagBuckets = 15;
+constexpr int handlerBuckets = 256;
+constexpr int objectBuckets = 16384;  // sized for large models
+
+void load(TagHandlerHashtable& table, std::vector<TagHandler>& rows) {
+  for (TagHandler& row : rows) {
+    if (row.tag == nullptr) break;
+    table.add(&row, false, nullptr);
+  }
+}
+
+}  // namespace
+
+XMIParser::XMIParser(KYRLog* messageLog)
+    : unknownTags(unknownTagBuckets),
+      contextHandlers(handlerBuckets),
+      typeHandlers(handlerBuckets),
+      generalHandlers(handlerBuckets),
+      objects(objectBuckets),
+      log(messageLog) {
+  DispatchRows& rows = DispatchRows::get();
+  load(contextHandlers, rows.context);
+  load(typeHandlers, rows.type);
+  load(generalHandlers, rows.general);
+}
+
+XMIParser::~XMIParser() { cleanUp(); }
+
+UMLModel* XMIParser::parse(const KYRFile& input) {
+  file = input;
+  skipDepth = 0;
+  umlVersion.empty();
+  xmiVersion.empty();
+  // What was read up to a failure is of no use to anybody, so it goes before the exception does.
+  try {
+    if (parser == nullptr) {
+      parser = std::make_unique<KYRSAX2Parser>(this, log, &startCallback, &endCallback, &charactersCallback,
+                                               nullptr);
+    }
+    parser->parseFile(file);
+    if (!modelSeen) KBI_UML2XMI::UML2_I_BAD_HEADERUML2_ERROR.throwException();
+    reportUnknownTags();
+    resolveLinks();
+    attachComments();
+  } catch (...) {
+    cleanUp();
+    throw;
+  }
+  return model;
+}
+
+UMLElement* XMIParser::getElement(int offset) const noexcept {
+  const auto position = static_cast<std::ptrdiff_t>(elementStack.size()) - 1 + offset;
+  if (position < 0) return nullptr;
+  return elementStack[static_cast<std::size_t>(position)].element;
+}
+
+void XMIParser::pushElement(UMLElement* element, IdTable::Number id) {
+  elementStack.push_back({element, id});
+}
+
+// A patched row pops once more than was pushed when its element is a mere reference, so the stack
+// can be empty here.
+void XMIParser::popElement() noexcept {
+  if (!elementStack.empty()) elementStack.pop_back();
+}
+
+KYRString XMIParser::getPosition() const { return parser->getPosition(); }
+
+// A context row has no end action, since its element may be a mere reference. Once its reader has
+// made an object the row pops at every end tag, that of later references included; this shapes which
+// object later children attach to and is kept. See "ThePatchedRowPopsForReferencesToo" in RowPatchTest.
+void XMIParser::patchRow() noexcept {
+  TagHandler* const row = handlerStack.back().row;
+  if (row->endAction.marker == EndAction::Marker::none) row->endAction = {EndAction::Marker::pop, nullptr};
+}
+
+void XMIParser::reportUnknownTags() {
+  for (unsigned int i = 0; i < unknownTags.getSlotCount(); ++i) {
+    const UnknownTag& record = *unknownTags.at(i);
+    KBI_UML2XMI::UML2_I_UNKNOWN_TAG.log(*log, record.position, record.tag);
+  }
+}
+
+void XMIParser::resolveLinks() {
+  for (const PendingLink& link : pendingLinks) {
+    UMLElement* const first = ids.find(link.first);
+    UMLElement* const second = ids.find(link.second);
+    const bool linked = first != nullptr && second != nullptr && linkRelationship(first, second, link.kind);
+    if (observer == nullptr) continue;
+    using Result = ReadObserver::LinkResult;
+    const Result result = linked              ? Result::linked
+                          : first == nullptr  ? Result::firstMissing
+                          : second == nullptr ? Result::secondMissing
+                                              : Result::wrongClass;
+    observer->link(ids.getText(link.first), ids.getText(link.second), link.kind, result);
+  }
+}
+
+void XMIParser::cleanUp() noexcept {
+  elementStack.clear();
+  handlerStack.clear();
+  pendingLinks.clear();
+  for (unsigned int i = 0; i < unknownTags.getSlotCount(); ++i) delete unknownTags.at(i);
+  unknownTags.empty();
+  for (unsigned int i = 0; i < objects.getSlotCount(); ++i) {
+    UMLElement* const element = objects.at(i);
+    for (UMLTaggedValue* const tag : element->taggedValues) delete tag;
+    element->taggedValues.clear();
+    delete element;
+  }
+  objects.empty();
+  model = nullptr;
+  parser.reset();
+}

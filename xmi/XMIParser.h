@@ -1,0 +1,154 @@
+// XMIParser: one XMI file becomes a tree of UML objects.
+//
+// The file is streamed once. Each start tag is looked up in the dispatch tables; readers make
+// objects, push them on the element stack and only note references. After the last tag the parser
+// reports unknown tags, resolves the references, attaches comments and runs the tool extension.
+//
+// Ownership: the parser owns every UML object and kind object, and the document whose texts they
+// show; all die with it. A parser reads one file. Two parsers must not run at once in one process,
+// since the dispatch rows are shared.
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "foundation/KYRFile.h"
+#include "foundation/KYRLog.h"
+#include "foundation/KYRSAX2Parser.h"
+#include "foundation/KYRString.h"
+#include "foundation/KYRStringArray.h"
+#include "uml/UMLForward.h"
+#include "uml/UMLKindPool.h"
+#include "xmi/AttributeScan.h"
+#include "xmi/IdTable.h"
+#include "xmi/PendingLink.h"
+#include "xmi/TagHandler.h"
+#include "xmi/UMLObjectTable.h"
+#include "xmi/UnknownTag.h"
+
+class ClassPlan;
+class ReadObserver;
+
+class XMIParser {
+ public:
+  using ID2ObjectHashtable = UMLObjectTable;
+  using TagHandlerHashtable = ::TagHandlerHashtable;
+  using UnknownTagHashtable = ::UnknownTagHashtable;
+
+  /// `log` receives the messages and must outlive the parser.
+  explicit XMIParser(KYRLog* log);
+  XMIParser(const XMIParser&) = delete;
+  XMIParser& operator=(const XMIParser&) = delete;
+  ~XMIParser();
+
+  /// Reads the file and finishes its objects. The result lives as long as the parser.
+  /// Raises KYRException: "[KBI_UML2XMI_F0008] ..." when no model element started anywhere in the
+  /// file, and whatever the XML reader raises. After an exception the parser holds nothing.
+  UMLModel* parse(const KYRFile& file);
+
+  /// All UML objects, in order of reading.
+  const UMLObjectTable& getObjects() const noexcept { return objects; }
+  const KYRString& getExporter() const noexcept { return exporter; }
+  const KYRString& getExporterVersion() const noexcept { return exporterVersion; }
+  /// The detected versions; empty when the file's namespace is not known.
+  const KYRString& getUmlVersion() const noexcept { return umlVersion; }
+  const KYRString& getXmiVersion() const noexcept { return xmiVersion; }
+  /// Told of the read from the next `parse` on; null for none. Borrowed.
+  void setObserver(ReadObserver* readObserver) noexcept { observer = readObserver; }
+
+  /// The first entry behind one that equals `name` without regard to case, names and values walked
+  /// alike one position at a time; the empty text when there is none.
+  static const KYRString& getAttribute(const KYRStringArray& attributes, const KYRString& name);
+  /// True for "TRUE" in any case and for nothing else.
+  static bool isTrue(const KYRString& value);
+  /// The UML or XMI version that a namespace URI stands for, or the empty text.
+  static KYRString umlVersionOf(const KYRString& uri);
+  static KYRString xmiVersionOf(const KYRString& uri);
+
+  /// Fills in both ends of a relationship; true when the row's effects were applied.
+  bool linkRelationship(UMLElement* first, UMLElement* second, int kind);
+
+  // Actions of the dispatch rows.
+  void readElement(const TagHandler& row, const KYRString& tag, const KYRStringArray& attributes);
+  void readModel(const TagHandler& row, const KYRString& tag, const KYRStringArray& attributes);
+  void readLiteral(const TagHandler& row, const KYRString& tag, const KYRStringArray& attributes);
+  void readChild(const TagHandler& row, const KYRString& tag, const KYRStringArray& attributes);
+  void storeText(const TagHandler& row, const KYRString& tag);
+  void captureNamespaces(const TagHandler& row, const KYRString& tag, const KYRStringArray& attributes);
+  void captureExporter(const TagHandler& row, const KYRString& tag, const KYRStringArray& attributes);
+  void endExporter(const TagHandler& row, const KYRString& tag);
+  void endExporterVersion(const TagHandler& row, const KYRString& tag);
+
+ private:
+  /// An open object and the number of its id.
+  struct OpenElement {
+    UMLElement* element;
+    IdTable::Number id;
+  };
+  /// One for each open XML element, skipped ones too; the row is null when none matched.
+  struct HandlerEntry {
+    TagHandler* row;
+  };
+
+  // The callbacks of the streaming reader.
+  static void startCallback(void* userData, const KYRString& tag, const KYRStringArray& attributes);
+  static void endCallback(void* userData, const KYRString& tag);
+  static void charactersCallback(void* userData, const KYRString& chunk);
+  void startTag(const KYRString& tag, const KYRStringArray& attributes);
+  void endTag(const KYRString& tag);
+  TagHandler* chooseRowByTag(const KYRString& tag) const;
+  void beginSkip(const KYRString& tag);
+  void noteUnknown(const KYRString& tag);
+
+  // The stacks.
+  UMLElement* getElement(int offset) const noexcept;
+  void pushElement(UMLElement* element, IdTable::Number id);
+  void popElement() noexcept;
+  KYRString getPosition() const;
+  void patchRow() noexcept;
+
+  // What readers share. The attributes are those of the element being started.
+  const KYRString& attribute(int name) const noexcept { return scan.get(name); }
+  void readPlan(const ClassPlan& plan, const KYRString& tag);
+  static std::unique_ptr<UMLElement> makeObject(const ClassPlan& plan, const KYRString& id,
+                                                const KYRString& name);
+  void completeObject(const ClassPlan& plan, const KYRString& tag, std::unique_ptr<UMLElement> object,
+                      IdTable::Number id);
+  void readScalars(const ClassPlan& plan, UMLElement& element);
+  void noteReferences(const ClassPlan& plan, IdTable::Number id);
+  void tieToParent(const ClassPlan& plan, const KYRString& tag, IdTable::Number id);
+  void noteLink(IdTable::Number first, IdTable::Number second, int kind);
+  void detectVersions();
+
+  // The end of a parse, in order.
+  void reportUnknownTags();
+  void resolveLinks();
+  void attachComments();
+  void cleanUp() noexcept;
+
+  std::unique_ptr<KYRSAX2Parser> parser;  // keeps the document that the texts of the objects show
+  UnknownTagHashtable unknownTags;        // owned
+  TagHandlerHashtable contextHandlers;
+  TagHandlerHashtable typeHandlers;
+  TagHandlerHashtable generalHandlers;
+  KYRString skippedTag;
+  int skipDepth = 0;
+  std::vector<OpenElement> elementStack;
+  KYRString text;
+  std::vector<HandlerEntry> handlerStack;
+  UMLObjectTable objects;  // owned
+  std::vector<PendingLink> pendingLinks;
+  KYRString exporter;
+  KYRString exporterVersion;
+  KYRString umlVersion;
+  KYRString xmiVersion;
+  bool modelSeen = false;
+  KYRFile file;
+  KYRLog* log;
+  UMLModel* model = nullptr;
+
+  IdTable ids;
+  UMLKindPool kinds;
+  AttributeScan scan;
+  ReadObserver* observer = nullptr;
+};
