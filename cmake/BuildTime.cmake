@@ -1,8 +1,9 @@
-# The build time is fixed at configure time; SOURCE_DATE_EPOCH makes builds repeatable.
+# The build time is fixed when a build folder is configured first; SOURCE_DATE_EPOCH makes builds
+# repeatable.
 if(DEFINED ENV{SOURCE_DATE_EPOCH})
-  set(KYR_BUILD_TIME "$ENV{SOURCE_DATE_EPOCH}")
-else()
-  string(TIMESTAMP KYR_BUILD_TIME "%s" UTC)
+  set(KYR_BUILD_TIME "$ENV{SOURCE_DATE_EPOCH}" CACHE STRING "Build time in seconds since 1970" FORCE)
+elseif(NOT DEFINED KYR_BUILD_TIME)
+  string(TIMESTAMP now "%s" UTC)
+  set(KYR_BUILD_TIME "${now}" CACHE STRING "Build time in seconds since 1970")
 endif()
-set(KYR_BUILD_TIME "${KYR_BUILD_TIME}" CACHE STRING "Build time in seconds since 1970")
 configure_file(${PROJECT_SOURCE_DIR}/cmake/BuildTime.h.in ${PROJECT_BINARY_DIR}/generated/BuildTime.h @ONLY)

@@ -6,8 +6,9 @@
 // pointer: null, the single entry itself (marked in the lowest bit), or a Container on the heap.
 #pragma once
 
+#include <cassert>
 #include <cstdint>
-#include <type_traits>
+#include <memory>
 #include <utility>
 
 #include "foundation/KYRVector.h"
@@ -21,8 +22,7 @@ class Borrowed {
   Borrowed(Borrowed&& other) noexcept : bits_(std::exchange(other.bits_, 0)) {}
   Borrowed& operator=(const Borrowed& other) {
     if (this != &other) {
-      const std::uintptr_t copy =
-          other.isHeap() ? reinterpret_cast<std::uintptr_t>(new Container(*other.heap())) : other.bits_;
+      const std::uintptr_t copy = other.isHeap() ? number(new Container(*other.heap())) : other.bits_;
       clear();
       bits_ = copy;
     }
@@ -42,19 +42,13 @@ class Borrowed {
     }
     if (isSingle()) {
       if (unique && at(0) == entry) return false;
-      auto* container = new Container();
-      T* const first = at(0);
-      try {
-        container->add(untyped(first), false, nullptr);
-        container->add(untyped(entry), false, nullptr);
-      } catch (...) {
-        delete container;
-        throw;
-      }
-      bits_ = reinterpret_cast<std::uintptr_t>(container);
+      auto container = std::make_unique<Container>();
+      container->add(untyped(at(0)), false, nullptr);
+      container->add(untyped(entry), false, nullptr);
+      bits_ = number(container.release());
       return true;
     }
-    if (bits_ == 0) bits_ = reinterpret_cast<std::uintptr_t>(new Container());
+    if (bits_ == 0) bits_ = number(new Container());
     return heap()->add(untyped(entry), unique, nullptr);
   }
   /// Number of entries. It may change during a walk, so loops read it each time.
@@ -65,7 +59,7 @@ class Borrowed {
   bool isEmpty() const noexcept { return count() == 0; }
   /// The entry at a position from 0; null beyond the end.
   T* at(unsigned int index) const noexcept {
-    if (isSingle()) return index == 0 ? typed(reinterpret_cast<const void*>(bits_ & ~singleMark)) : nullptr;
+    if (isSingle()) return index == 0 ? typed(pointer(bits_ & ~singleMark)) : nullptr;
     return bits_ == 0 ? nullptr : typed(heap()->getAt(index));
   }
   bool contains(const T* entry) const {
@@ -119,11 +113,18 @@ class Borrowed {
   static const void* untyped(const T* entry) noexcept { return static_cast<const void*>(entry); }
   static T* typed(const void* entry) noexcept { return static_cast<T*>(const_cast<void*>(entry)); }
   static std::uintptr_t single(const T* entry) noexcept {
-    return reinterpret_cast<std::uintptr_t>(untyped(entry)) | singleMark;
+    const std::uintptr_t bits = number(untyped(entry));
+    assert((bits & singleMark) == 0);  // objects with a virtual table lie at even addresses
+    return bits | singleMark;
   }
+  static std::uintptr_t number(const void* pointed) noexcept {
+    return reinterpret_cast<std::uintptr_t>(pointed);
+  }
+  // NOLINTNEXTLINE(performance-no-int-to-ptr): a marked pointer is a number, that is the idea
+  static void* pointer(std::uintptr_t bits) noexcept { return reinterpret_cast<void*>(bits); }
   bool isSingle() const noexcept { return (bits_ & singleMark) != 0; }
   bool isHeap() const noexcept { return bits_ != 0 && !isSingle(); }
-  Container* heap() const noexcept { return reinterpret_cast<Container*>(bits_); }
+  Container* heap() const noexcept { return static_cast<Container*>(pointer(bits_)); }
 
   std::uintptr_t bits_ = 0;
 };

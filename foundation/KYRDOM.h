@@ -7,8 +7,8 @@
 #include "foundation/KYRLog.h"
 #include "foundation/KYRString.h"
 
-class XmlDocument;
 class XmlTree;
+struct XmlChildren;
 class KYRDOMElement;
 
 class KYR_EXPORT KYRDOM {
@@ -58,9 +58,12 @@ class KYR_EXPORT KYRDOMElement {
  private:
   friend class XmlTree;
   KYRDOMElement(XmlTree* tree, unsigned int node) noexcept;
-  struct Cursor;
+  const XmlChildren* getChildren() const;
+  const XmlChildren* getChildrenByName() const;
+
   XmlTree* tree_;
   unsigned int node_;
-  mutable std::unique_ptr<Cursor> cursor_;
+  mutable bool isValueKnown_ = false;
+  mutable std::unique_ptr<XmlChildren> children_;  // null until asked for, and without any
   mutable KYRString value_;
 };

@@ -11,6 +11,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <vector>
 
 #include "foundation/KYRContainer.h"
@@ -19,7 +20,8 @@ class KYR_EXPORT KYRHashtable : public KYRContainer {
  public:
   /// A table of about `bucketCount` buckets, which grows with its content.
   explicit KYRHashtable(int bucketCount);
-  /// Shares the object pointers.
+  /// Shares the object pointers. The chains are copied as they are, so the copy must hash and compare
+  /// as `other` does.
   KYRHashtable(const KYRHashtable& other);
   ~KYRHashtable() override;
 
@@ -27,23 +29,32 @@ class KYR_EXPORT KYRHashtable : public KYRContainer {
   Iterator* newIterator(bool forward) const override;
   void deleteIterator(Iterator* iterator) const override;
   /// With `unique` an object whose key equals one already present is refused: the result is false
-  /// and the caller still holds the object.
+  /// and the caller still holds the object. Null is refused too. When a hash or a comparison raises,
+  /// or memory runs out, the table is as before.
   bool add(const void* object, bool unique, Iterator* position) override;
   /// Whether an object of equal key is present.
   bool contains(const void* object, Iterator* position) const override;
   const void* findFirst(const void* key, Iterator* position) const override;
+  /// Leaves a gap and never moves the other entries, so a walk goes on undisturbed.
   const void* remove(Iterator* position) override;
 
   /// 0 when the two objects have equal keys. By default the key is the address.
   virtual int compare2Object(const void* first, const void* second) const;
   /// 0 when the object has that key.
   virtual int compare2Key(const void* object, const void* key) const;
-  /// Takes the entries of `other` in their order; hashing and comparing stay this table's own.
+  // The assignment that each derived table gets by itself hides this one, which is as it should be.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Woverloaded-virtual"
+  /// Takes the entries of `other` in their order; hashing and comparing stay this table's own. When
+  /// one of them raises, or memory runs out, the table is as before.
+  // NOLINTNEXTLINE(misc-unconventional-assign-operator): the slot is given, so it is virtual
   virtual KYRHashtable& operator=(const KYRHashtable& other);
+#pragma GCC diagnostic pop
   /// Same objects (by address) in the same order.
   virtual bool operator==(const KYRHashtable& other) const;
   virtual bool operator!=(const KYRHashtable& other) const;
-  /// Rehashes into at least `bucketCount` buckets.
+  /// Rehashes into at least `bucketCount` buckets, and into no fewer than there are objects. `add`
+  /// calls it when the table is full.
   virtual void resize(int bucketCount);
   /// Must agree with `hashKey` for an object and its key.
   virtual unsigned int hashObject(const void* object) const;
@@ -58,29 +69,49 @@ class KYR_EXPORT KYRHashtable : public KYRContainer {
   const void* getAt(unsigned int slot) const noexcept {
     return slot < entries_.size() ? entries_[slot].object : nullptr;
   }
-  /// Removes the first object of that key and returns it, or null.
+  static constexpr unsigned int noSlot = 0xFFFFFFFFU;
+  /// The position of the first object added under that key, or `noSlot`.
+  unsigned int getFirstSlot(const void* key) const;
+  /// The position of the next object of the same key, in order of adding, or `noSlot`.
+  unsigned int getNextEqualSlot(unsigned int slot) const noexcept {
+    return slot < entries_.size() ? entries_[slot].nextEqual : noSlot;
+  }
+  /// Removes the first object of that key and returns it, or null. As with `removeObject`, gaps that
+  /// outnumber the objects are closed then, which moves positions: not to be called during a walk.
   const void* removeKey(const void* key);
-  /// Removes this very object (by address) among those of its key; false when it is not there.
+  /// Removes this very object (by address), also one that no key finds; false when it is not there.
   bool removeObject(const void* object);
   unsigned int getBucketCount() const noexcept { return static_cast<unsigned int>(buckets_.size()); }
 
  private:
   class TableIterator;
+  class AddressIndex;
   static constexpr std::uint32_t none = 0xFFFFFFFFU;
+  // The first object of a key is its leader; only leaders hang in the chains of the buckets.
   struct Entry {
     const void* object;
     std::uint32_t hash;
-    std::uint32_t nextInBucket;  // next first-of-its-key entry of the bucket
-    std::uint32_t nextEqual;     // next entry with an equal key, in order of adding
-    std::uint32_t lastEqual;     // on the first of a key: the last of its equals, else none
+    std::uint32_t link;       // leader: next leader of the bucket; else the previous equal
+    std::uint32_t nextEqual;  // next entry with an equal key, in order of adding
+    std::uint32_t lastEqual;  // leader: the last of its equals (alone: itself); else none
   };
 
-  std::uint32_t findLeader(const void* object, std::uint32_t hash) const;
-  void chain(std::uint32_t slot);
-  void removeSlot(std::uint32_t slot);
+  std::uint32_t* bucketOf(std::uint32_t hash) noexcept;
+  template <class IsEqual>
+  std::uint32_t findLeader(std::uint32_t hash, IsEqual isEqual) const;
+  std::uint32_t findEqual(const void* object, std::uint32_t hash) const;
+  std::uint32_t findKey(const void* key) const;
+  std::uint32_t findObject(const void* object);
+  void rebuildBuckets(std::size_t bucketCount);
+  void append(const void* object, std::uint32_t hash, bool isChained, std::uint32_t leader) noexcept;
+  void removeSlot(std::uint32_t slot) noexcept;
+  void removeAndCompact(std::uint32_t slot) noexcept;
+  void compact() noexcept;
 
   std::vector<Entry> entries_;
   std::vector<std::uint32_t> buckets_;  // made at the first add
   std::uint32_t wantedBuckets_;
   std::uint32_t count_ = 0;
+  std::uint32_t firstSlot_ = 0;  // no object stands before it
+  std::unique_ptr<AddressIndex> addresses_;
 };

@@ -36,6 +36,9 @@ class KYR_EXPORT KYROption {
   const std::vector<KYRString>& getFileExtensions() const noexcept { return fileExtensions_; }
   OpenMode getOpenMode() const noexcept { return openMode_; }
   void setFileChoice(std::vector<KYRString> extensions, OpenMode mode);
+  /// Whether the extensions are an offer only, so that a file of any name may be chosen.
+  bool acceptsAnyFileName() const noexcept { return acceptsAnyFileName_; }
+  void setAcceptsAnyFileName(bool acceptsAny) noexcept { acceptsAnyFileName_ = acceptsAny; }
 
  private:
   KYRString identifier_;
@@ -47,6 +50,7 @@ class KYR_EXPORT KYROption {
   KYRString value_;
   std::vector<KYRString> fileExtensions_;
   OpenMode openMode_ = OpenMode::read;
+  bool acceptsAnyFileName_ = false;
 };
 
 class KYR_EXPORT KYROptionList {

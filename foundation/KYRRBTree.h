@@ -1,5 +1,5 @@
 // KYRRBTree: an ordered set of object pointers. It walks in the order of its comparison, which is
-// the order of addresses unless a derived class says otherwise.
+// the order of addresses: good for asking what is in it, not for anything that ends in a file.
 #pragma once
 
 #include <set>

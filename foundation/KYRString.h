@@ -50,6 +50,7 @@ class KYR_EXPORT KYRString {
   void init(const char* text, int length);
   KYRString& operator+=(const KYRString& other);
   KYRString& operator+=(std::string_view other);
+  KYRString& operator+=(const char* other);
   /// Makes the text empty. It is not a test; `isEmpty` is.
   void empty() noexcept;
   /// Makes the text empty but keeps its buffer for the next text.
@@ -89,6 +90,7 @@ class KYR_EXPORT KYRString {
   unsigned int hashCode() const noexcept;
 
  private:
+  friend KYR_EXPORT KYRString operator+(const KYRString& first, const KYRString& second);
   char* reserve(std::size_t length);  // makes an owned buffer for `length` characters; value lost
   void assign(std::string_view text);
 

@@ -60,4 +60,7 @@ class KYR_EXPORT KYRVector : public KYRContainer {
 class KYR_EXPORT KYROrderedVector : public KYRVector {
  public:
   using KYRVector::KYRVector;
+  KYROrderedVector() = default;
+  /// Shares the object pointers.
+  explicit KYROrderedVector(const KYRVector& other) : _KYRContainer(other), KYRVector(other) {}
 };

@@ -20,6 +20,7 @@ class ReaderNames {
   int find(std::string_view text) const noexcept;
   /// The same without regard to case.
   int findIgnoringCase(std::string_view text) const noexcept;
+  std::string_view getName(int number) const noexcept { return names_[static_cast<unsigned int>(number)]; }
   int getCount() const noexcept { return static_cast<int>(names_.size()); }
 
   // Numbers of the attributes that every reader asks for.

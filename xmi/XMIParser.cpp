@@ -53,6 +53,7 @@ UMLModel* XMIParser::parse(const KYRFile& input) {
     reportUnknownTags();
     resolveLinks();
     attachComments();
+    runToolExtension();
   } catch (...) {
     cleanUp();
     throw;

@@ -19,6 +19,7 @@
 #include "foundation/KYRStringArray.h"
 #include "uml/UMLForward.h"
 #include "uml/UMLKindPool.h"
+#include "uml/UMLMadeObjects.h"
 #include "xmi/AttributeScan.h"
 #include "xmi/IdTable.h"
 #include "xmi/PendingLink.h"
@@ -48,6 +49,8 @@ class XMIParser {
 
   /// All UML objects, in order of reading.
   const UMLObjectTable& getObjects() const noexcept { return objects; }
+  /// Objects that the tool extension made, replaced ones included, in order of making.
+  const UMLMadeObjects& getMadeObjects() const noexcept { return madeObjects; }
   const KYRString& getExporter() const noexcept { return exporter; }
   const KYRString& getExporterVersion() const noexcept { return exporterVersion; }
   /// The detected versions; empty when the file's namespace is not known.
@@ -124,6 +127,7 @@ class XMIParser {
   void reportUnknownTags();
   void resolveLinks();
   void attachComments();
+  void runToolExtension();
   void cleanUp() noexcept;
 
   std::unique_ptr<KYRSAX2Parser> parser;  // keeps the document that the texts of the objects show
@@ -149,6 +153,7 @@ class XMIParser {
 
   IdTable ids;
   UMLKindPool kinds;
+  UMLMadeObjects madeObjects;  // made by the tool extension; they outlive `objects`
   AttributeScan scan;
   ReadObserver* observer = nullptr;
 };

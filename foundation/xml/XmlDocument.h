@@ -4,16 +4,18 @@
 // The subtree of a node is the range [node, getEnd(node)), so every walk is a loop and nothing here
 // is recursive. Names are interned: equal names have equal numbers and share their characters.
 // Attributes stand in one array, in order of their elements. All texts are KYRString views into
-// blocks of the arena, each ending in a zero. Everything is freed at once.
+// blocks of the arena, each ending in a zero; texts that repeat within some distance, such as
+// indentation, "false" or "uml:Property", are kept once. Everything is freed at once.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
-#include <memory>
-#include <vector>
 
 #include "foundation/Export.h"
 #include "foundation/KYRString.h"
+#include "foundation/xml/XmlBlockArray.h"
+#include "foundation/xml/XmlNameTable.h"
+#include "foundation/xml/XmlTextArena.h"
 
 class KYR_EXPORT XmlDocument {
  public:
@@ -31,11 +33,11 @@ class KYR_EXPORT XmlDocument {
   bool isEmpty() const noexcept { return getNodeCount() == 0; }
   bool isElement(Node node) const noexcept { return nodes_[node].name != textName; }
   Name getName(Node node) const noexcept { return nodes_[node].name; }
-  const KYRString& getNameText(Name name) const noexcept { return names_[name]; }
-  Name getNameCount() const noexcept { return static_cast<Name>(names_.size()); }
+  const KYRString& getNameText(Name name) const noexcept { return names_.getText(name); }
+  Name getNameCount() const noexcept { return names_.getCount(); }
   /// The number of a name; textName when no tag or attribute of the document bears it.
   Name findName(const KYRString& text) const noexcept;
-  const KYRString& getTag(Node node) const noexcept { return names_[nodes_[node].name]; }
+  const KYRString& getTag(Node node) const noexcept { return names_.getText(nodes_[node].name); }
   /// noNode at the root.
   Node getParent(Node node) const noexcept { return nodes_[node].parent; }
   /// The node behind the subtree.
@@ -48,10 +50,10 @@ class KYR_EXPORT XmlDocument {
     return nodes_[node + 1].firstAttribute - nodes_[node].firstAttribute;
   }
   Name getAttributeName(Node node, std::uint32_t index) const noexcept {
-    return attributeNames_[nodes_[node].firstAttribute + index];
+    return attributes_[nodes_[node].firstAttribute + index].name;
   }
   const KYRString& getAttributeValue(Node node, std::uint32_t index) const noexcept {
-    return attributeValues_[nodes_[node].firstAttribute + index];
+    return texts_[attributes_[nodes_[node].firstAttribute + index].value];
   }
   /// The value of the attribute of exactly that name, or null.
   const KYRString* findAttribute(Node node, Name name) const noexcept;
@@ -76,14 +78,14 @@ class KYR_EXPORT XmlDocument {
     std::uint32_t lineOrText;
     std::uint32_t column;
   };
-  class NameTable;
-  class TextArena;
+  struct AttributeRecord {
+    Name name;
+    std::uint32_t value;  // number of the text
+  };
 
-  std::vector<NodeRecord> nodes_;  // one more than nodes: the sentinel ends the last attribute range
-  std::vector<KYRString> names_;
-  std::vector<Name> attributeNames_;
-  std::vector<KYRString> attributeValues_;
-  std::vector<KYRString> texts_;
-  std::unique_ptr<NameTable> nameTable_;
-  std::unique_ptr<TextArena> arena_;
+  XmlBlockArray<NodeRecord> nodes_;  // one more than nodes: the sentinel ends the last attribute range
+  XmlBlockArray<AttributeRecord> attributes_;
+  XmlBlockArray<KYRString> texts_;
+  XmlNameTable names_;
+  XmlTextArena arena_;
 };

@@ -16,6 +16,13 @@ struct KYR_EXPORT XmlLimits {
   std::size_t maxTextBytes = std::size_t{64} * 1024 * 1024;
   /// Bytes of one tag or attribute name, in UTF-8.
   std::size_t maxNameBytes = 4096;
+  /// Bytes of one tag, comment, processing instruction or declaration, in UTF-8. The tokenizer holds
+  /// each of them whole, so this bounds its memory before the limits above can be tested. It raises at
+  /// the latest when twice as much has been read.
+  std::size_t maxMarkupBytes = std::size_t{256} * 1024 * 1024;
+  /// Nodes of one document; likewise its attributes, and its distinct texts. Numbers of 32 bits count
+  /// them, so the value given here is also the highest possible one.
+  std::size_t maxItems = 0xFFFFFFFEU;
 
   /// The limits in force.
   static const XmlLimits& get() noexcept;

@@ -1,0 +1,52 @@
+# The everyday commands. Each one installs what it needs first (Debian packages, only what is
+# missing) and works in build/<preset>; `make help` lists them.
+SHELL := /bin/bash
+.SHELLFLAGS := -euo pipefail -c
+.DEFAULT_GOAL := help
+
+JOBS ?= $(shell nproc)
+CORPUS ?=
+export CTEST_PARALLEL_LEVEL ?= $(JOBS)
+
+configure_flags := $(if $(CORPUS),-DKYR_CORPUS_DIR=$(abspath $(CORPUS)))
+sample := samples/plain.xmi
+imported := out/plain.json
+
+.PHONY: help build run test lint format bench clean deps-%
+
+help: ## List the commands
+	@grep -hE '^[a-z]+:.*## ' $(MAKEFILE_LIST) | sed -E 's/^([a-z]+):.*## (.*)/  make \1\t\2/' | expand -t 16
+	@echo "CORPUS=folder adds the test that imports every real model file of a folder to make test."
+
+deps-%:
+	@scripts/install-deps.sh $*
+
+build: deps-build deps-test ## Build the release preset into build/release
+	cmake --preset release $(configure_flags)
+	cmake --build --preset release --parallel $(JOBS)
+
+run: build ## Import a shipped sample and show what came of it
+	@mkdir -p $(dir $(imported))
+	build/release/bin/kyr import $(sample) -o $(imported)
+	@echo && echo "$(imported): $$(wc -c < $(imported)) bytes, which open with"
+	@head -c 600 $(imported) && echo " ..."
+	@echo && echo "kyr inspect $(sample)"
+	@build/release/bin/kyr inspect $(sample) | sed -n '1,20p'
+
+test: build ## Run all tests: release, then address, leak and undefined behaviour sanitizers
+	ctest --preset release
+	cmake --preset asan-ubsan $(configure_flags)
+	cmake --build --preset asan-ubsan --parallel $(JOBS)
+	ctest --preset asan-ubsan
+
+lint: deps-build deps-test deps-lint ## Check format, include direction, headers and clang-tidy
+	scripts/lint.sh
+
+format: deps-lint ## Rewrite all sources with clang-format
+	scripts/list-sources.sh | xargs clang-format -i
+
+bench: deps-bench build ## Print time and memory of imports of 1, 10 and 100 MB
+	python3 bench/run_bench.py build/release
+
+clean: ## Remove everything that was built
+	rm -rf build out

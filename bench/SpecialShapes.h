@@ -1,0 +1,22 @@
+// Files that stress one thing each: many classes in one name space, many references, depth, one huge
+// attribute, entities that multiply.
+#pragma once
+
+#include <cstdint>
+
+#include "bench/XmlWriter.h"
+
+namespace bench {
+
+/// `count` classes in one package, all of one name if `sameName`.
+void writeManyClasses(XmlWriter& writer, std::uint64_t count, bool sameName);
+/// `count` references between 1,000 classes; half of them start at one class.
+void writeManyLinks(XmlWriter& writer, std::uint64_t count, std::uint64_t seed);
+/// Packages nested so deep that the document has `depth` levels.
+void writeDeepNesting(XmlWriter& writer, std::uint64_t depth);
+/// A comment whose body attribute has `size` bytes.
+void writeHugeAttribute(XmlWriter& writer, std::uint64_t size);
+/// A document type whose entities would grow to 10^9 copies of one word.
+void writeEntityBomb(XmlWriter& writer);
+
+}  // namespace bench

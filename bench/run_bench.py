@@ -1,0 +1,184 @@
+#!/usr/bin/env python3
+"""Measures `kyr import` and prints one table.
+
+Files of 1, 10 and 100 MB in three manners of writing are generated from a seed and imported. Beside each
+import stands what raw expat with empty handlers needs for the same file: the ratio of the two is the
+figure to watch, since it hardly depends on the machine. Peak memory is told as a multiple of the file's
+size. The growth columns tell how often longer a ten times larger file takes. Below stand files that
+stress one thing each: they end in linear time or with a clear error.
+"""
+
+import argparse
+import os
+import subprocess
+import sys
+import tempfile
+import time
+from pathlib import Path
+
+KINDS = ("plain", "ea", "magicdraw")
+SIZES = (1, 10, 100)
+MODIFICATION_TIME = "2026-01-01T00:00:00Z"
+
+# (what it shows, arguments of the generator)
+SPECIAL = (
+    ("100,000 classes in one package", ["--kind", "classes", "--count", "100000"]),
+    ("100,000 classes of one name", ["--kind", "classes", "--count", "100000", "--same-name"]),
+    ("1,000,000 classes in one package", ["--kind", "classes", "--count", "1000000"]),
+    ("100,000 links", ["--kind", "links", "--count", "100000"]),
+    ("1,000,000 links", ["--kind", "links", "--count", "1000000"]),
+    ("1,000 levels deep", ["--kind", "deep", "--depth", "1000"]),
+    ("50,000 levels deep", ["--kind", "deep", "--depth", "50000"]),
+    ("an attribute of 50 MB", ["--kind", "attribute", "--size-mb", "50"]),
+    ("an attribute of 100 MB", ["--kind", "attribute", "--size-mb", "100"]),
+    ("an entity bomb", ["--kind", "bomb"]),
+)
+
+
+class Run:
+    """How one command ended: exit code, seconds on the wall, peak memory in bytes, stderr."""
+
+    def __init__(self, command):
+        with tempfile.TemporaryFile() as errors:
+            started = time.perf_counter()
+            process = subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=errors)
+            _, status, usage = os.wait4(process.pid, 0)
+            self.seconds = time.perf_counter() - started
+            process.returncode = os.waitstatus_to_exitcode(status)
+            errors.seek(0)
+            self.stderr = errors.read().decode("utf-8", "replace")
+        self.code = process.returncode
+        self.peak = usage.ru_maxrss * 1024
+
+
+class Bench:
+    def __init__(self, arguments, folder):
+        build = Path(arguments.build)
+        self.kyr = arguments.kyr or str(build / "bin" / "kyr")
+        self.generator = arguments.generator or str(build / "bench" / "kyr-generate")
+        self.baseline = arguments.baseline or str(build / "bench" / "kyr-expat-baseline")
+        self.folder = Path(folder)
+        # A child's peak starts at what this interpreter had when it forked.
+        self.floor = Run(["true"]).peak
+        self.repeat = arguments.repeat
+        self.seed = str(arguments.seed)
+
+    def generate(self, options):
+        path = self.folder / "input.xmi"
+        subprocess.run([self.generator, *options, "--seed", self.seed, "-o", str(path)], check=True)
+        return path
+
+    def expat_seconds(self, path):
+        """The best of some runs; None when expat refuses the file."""
+        best = None
+        for _ in range(self.repeat):
+            result = subprocess.run([self.baseline, str(path)], capture_output=True, text=True, check=False)
+            if result.returncode != 0:
+                return None
+            seconds = float(result.stdout)
+            best = seconds if best is None else min(best, seconds)
+        return best
+
+    def peak_text(self, run, unit, digits):
+        """The peak in some unit, marked as an upper bound where the floor hides it."""
+        mark = "<" if run.peak <= self.floor * 1.02 else ""
+        return f"{mark}{run.peak / unit:.{digits}f}"
+
+    def import_run(self, path):
+        """The best of some imports; one that fails is not repeated."""
+        out = self.folder / "output.json"
+        command = [self.kyr, "import", str(path), "-o", str(out), "--modification-time",
+                   MODIFICATION_TIME, "--quiet"]
+        best = None
+        for _ in range(self.repeat):
+            run = Run(command)
+            if run.code != 0:
+                return run
+            if best is None or run.seconds < best.seconds:
+                best = run
+        return best
+
+
+def print_row(cells, widths):
+    first, *rest = cells
+    print(f"{first:<{widths[0]}}" + "".join(f"  {cell:>{width}}" for cell, width in zip(rest, widths[1:])),
+          flush=True)
+
+
+def error_of(run):
+    """The message of a failed import, on one line."""
+    lines = [line.strip() for line in run.stderr.splitlines() if line.strip()]
+    return f"exit {run.code}: " + (lines[-1] if lines else "no message")
+
+
+def bench_sizes(bench, kinds, sizes):
+    """The table of kinds and sizes; the number of failed imports."""
+    heads = ("file", "MB", "expat s", "import s", "ratio", "MB/s", "peak/size", "growth expat", "growth import")
+    widths = (12, 7, 8, 8, 6, 7, 9, 12, 13)
+    print_row(heads, widths)
+    failed = 0
+    for kind in kinds:
+        before = None
+        for size in sizes:
+            path = bench.generate(["--kind", kind, "--size-mb", str(size)])
+            megabytes = path.stat().st_size / 1e6
+            expat, run = bench.expat_seconds(path), bench.import_run(path)
+            if run.code != 0 or expat is None:
+                failed += 1
+                print_row((kind, f"{megabytes:.1f}", "-" if expat is None else f"{expat:.3f}"), widths)
+                print("    " + (error_of(run) if run.code != 0 else "expat refuses the file"))
+                before = None
+                continue
+            growth = ("", "")
+            if before:
+                # Of ten times the size, however far the two files are from it exactly.
+                factor = (megabytes / before[0]) / 10
+                growth = (f"{expat / before[1] / factor:.1f}", f"{run.seconds / before[2] / factor:.1f}")
+            print_row((kind, f"{megabytes:.1f}", f"{expat:.3f}", f"{run.seconds:.3f}",
+                       f"{run.seconds / expat:.2f}", f"{megabytes / run.seconds:.1f}",
+                       bench.peak_text(run, megabytes * 1e6, 2), *growth), widths)
+            before = (megabytes, expat, run.seconds)
+    return failed
+
+
+def bench_special(bench):
+    widths = (34, 7, 8, 8, 6, 9)
+    print()
+    print_row(("special file", "MB", "expat s", "import s", "ratio", "peak MB"), widths)
+    for title, options in SPECIAL:
+        path = bench.generate(options)
+        expat, run = bench.expat_seconds(path), bench.import_run(path)
+        print_row((title, f"{path.stat().st_size / 1e6:.1f}", "-" if expat is None else f"{expat:.3f}",
+                   f"{run.seconds:.3f}",
+                   f"{run.seconds / expat:.2f}" if expat and run.code == 0 else "-",
+                   bench.peak_text(run, 1e6, 0)), widths)
+        if run.code != 0:
+            print("    " + error_of(run))
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    parser.add_argument("build", nargs="?", default="build/release", help="build folder (default: %(default)s)")
+    parser.add_argument("--kyr", help="the kyr command (default: BUILD/bin/kyr)")
+    parser.add_argument("--generator", help="default: BUILD/bench/kyr-generate")
+    parser.add_argument("--baseline", help="default: BUILD/bench/kyr-expat-baseline")
+    parser.add_argument("--kinds", nargs="+", choices=KINDS, default=KINDS)
+    parser.add_argument("--sizes", nargs="+", type=int, default=SIZES, metavar="MB", help="default: 1 10 100")
+    parser.add_argument("--repeat", type=int, default=3, help="the best of so many runs counts (default: 3)")
+    parser.add_argument("--seed", type=int, default=1)
+    parser.add_argument("--no-special", action="store_true", help="leave out the special files")
+    arguments = parser.parse_args()
+    with tempfile.TemporaryDirectory(prefix="kyr-bench-") as folder:
+        bench = Bench(arguments, folder)
+        missing = [path for path in (bench.kyr, bench.generator, bench.baseline) if not os.access(path, os.X_OK)]
+        if missing:
+            print("not built: " + ", ".join(missing), file=sys.stderr)
+            return 2
+        failed = bench_sizes(bench, arguments.kinds, arguments.sizes)
+        if not arguments.no_special:
+            bench_special(bench)
+    return 1 if failed else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

@@ -1,0 +1,123 @@
+// The walk over packages. It is a loop: packages can nest as deep as a file's references make them.
+//
+// What the walk meets is told by exact kind, so a subclass does not pass for its base, and what no
+// test matches is passed over in silence.
+#include <unordered_set>
+
+#include "bridge/state/KYROmgUml2XmiImportBridge.h"
+#include "repository/model/KYRDesignPackage.h"
+#include "repository/model/KYRStoreModel.h"
+#include "uml/UMLCast.h"
+#include "uml/UMLClassifiers.h"
+
+namespace {
+
+// A package whose nested packages are being converted.
+struct OpenPackage {
+  UMLPackage* element;
+  std::unique_ptr<KYRDesignPackage> object;
+  std::vector<UMLNamedElement*> members;
+  std::size_t next = 0;
+};
+
+template <class Entry, class List>
+std::vector<UMLNamedElement*> snapshot(const List& list) {
+  std::vector<UMLNamedElement*> members;
+  members.reserve(list.count());
+  for (Entry* member : list) members.push_back(member);
+  return members;
+}
+
+// The next member from `next` on that is a package, or null at the end.
+UMLPackage* nextPackage(OpenPackage& open) {
+  while (open.next < open.members.size()) {
+    UMLNamedElement* const member = open.members[open.next++];
+    if (member != nullptr && member->getKind() == UMLPackage::kind) return umlCast<UMLPackage>(member);
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+std::vector<UMLNamedElement*> KYROmgUml2XmiImportBridge::getMembers(UMLPackage* package) {
+  return package->packagedElement.isEmpty() ? snapshot<UMLNamedElement>(package->ownedMember)
+                                            : snapshot<UMLPackageableElement>(package->packagedElement);
+}
+
+void KYROmgUml2XmiImportBridge::convertTopLevel() {
+  const std::vector<UMLNamedElement*> members = getMembers(umlModel);
+  countSteps(static_cast<unsigned int>(members.size()));
+  for (UMLNamedElement* member : members) {
+    if (member == nullptr) continue;
+    if (member->getKind() != UMLPackage::kind) {
+      convertMember(member, rootOwner);
+    } else if (rootOwner != nullptr) {
+      place(convertPackage(umlCast<UMLPackage>(member)), rootOwner);
+    } else {
+      std::unique_ptr<KYRDesignPackage> package = convertPackage(umlCast<UMLPackage>(member));
+      storeModel->addDesignPackage(package.get());
+      package.release();  // ownership: the store model
+    }
+  }
+}
+
+// A whole subtree of packages is finished before any class of its level.
+std::unique_ptr<KYRDesignPackage> KYROmgUml2XmiImportBridge::convertPackage(UMLPackage* package) {
+  std::vector<OpenPackage> open;
+  std::unordered_set<const UMLPackage*> openElements;
+  const auto enterPackage = [&](UMLPackage* element) {
+    open.push_back({element, createPackage(element), getMembers(element)});
+    openElements.insert(element);
+    countSteps(static_cast<unsigned int>(2 * open.back().members.size()) + 1);
+  };
+  enterPackage(package);
+  for (;;) {
+    if (UMLPackage* const nested = nextPackage(open.back())) {
+      // Packages that hold each other by reference: the one met again is passed over.
+      if (openElements.count(nested) == 0) enterPackage(nested);
+      continue;
+    }
+    OpenPackage done = std::move(open.back());
+    open.pop_back();
+    openElements.erase(done.element);
+    for (UMLNamedElement* member : getMembers(done.element)) {
+      if (member != nullptr) convertMember(member, done.object.get());
+    }
+    if (open.empty()) return std::move(done.object);
+    place(std::move(done.object), open.back().object.get());
+  }
+}
+
+std::unique_ptr<KYRDesignPackage> KYROmgUml2XmiImportBridge::createPackage(UMLPackage* element) {
+  auto package = std::make_unique<KYRDesignPackage>();
+  package->setName(element->name);
+  package->isModelPackage = true;
+  package->sourceId = element->id;
+  applyElementMetadata(package.get(), element);
+  enter(package.get(), element);
+  return package;
+}
+
+void KYROmgUml2XmiImportBridge::convertMember(UMLNamedElement* member, KYRDesignPackage* package) {
+  const bool hasName = !member->name.isEmpty();
+  switch (member->getKind()) {
+    case UMLClass::kind:
+      if (hasName) convertClass(umlCast<UMLClass>(member), package);
+      break;
+    case UMLInterface::kind:
+      if (hasName) convertInterface(umlCast<UMLInterface>(member), package);
+      break;
+    case UMLAssociationClass::kind:
+      convertClass(umlCast<UMLClass>(member), package);
+      pendingAssociations.add(umlCast<UMLAssociation>(member), false);
+      break;
+    case UMLAssociation::kind:
+      pendingAssociations.add(umlCast<UMLAssociation>(member), false);
+      break;
+    case UMLDependency::kind:
+      pendingDependencies.add(umlCast<UMLDependency>(member), false);
+      break;
+    default:
+      break;
+  }
+}

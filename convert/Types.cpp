@@ -1,0 +1,130 @@
+// Types. UML features point at types; features of the repository share them. A class in the place of
+// a type becomes a class type; everything else becomes a derived type, which rests on a base type.
+//
+// The first UML type to use a name decides all about the derived type of that name, length and scale.
+#include "bridge/state/KYROmgUml2XmiImportBridge.h"
+#include "repository/bridgelib/KYRBridgeLib.h"
+#include "repository/datatypes/KYRDataTypeConverter.h"
+#include "repository/model/KYRArgument.h"
+#include "repository/model/KYRAttribute.h"
+#include "repository/model/KYRClass.h"
+#include "repository/model/KYRClassType.h"
+#include "repository/model/KYRDerivedType.h"
+#include "repository/model/KYROperation.h"
+#include "repository/model/KYRStoreModel.h"
+#include "uml/UMLCast.h"
+#include "uml/UMLClassifiers.h"
+#include "uml/UMLFeatures.h"
+
+namespace {
+
+constexpr const char* undefinedName = "undefined";
+constexpr const char* classTypeSuffix = "_type";
+
+// The name with the numbers in it: "varchar_30", "decimal_10_2". A scale by itself adds nothing.
+KYRString buildLogicalName(const KYRString& typeName, int length, int scale) {
+  KYRString name = typeName;
+  if (length == 0) return name;
+  name += "_";
+  name += KYRString(length);
+  if (scale == 0) return name;
+  name += "_";
+  name += KYRString(scale);
+  return name;
+}
+
+}  // namespace
+
+void KYROmgUml2XmiImportBridge::assignFeatureType(KYRObject* feature) {
+  switch (feature->getElementType()) {
+    case KYRElementType::attribute:
+      dynamic_cast<KYRAttribute&>(*feature).addType(typeOf(umlCast<UMLTypedElement>(feature->umlElement)));
+      break;
+    case KYRElementType::argument:
+      dynamic_cast<KYRArgument&>(*feature).addType(typeOf(umlCast<UMLTypedElement>(feature->umlElement)));
+      break;
+    case KYRElementType::operation: {
+      const auto* const element = umlCast<UMLOperation>(feature->umlElement);
+      if (element == nullptr || element->type == nullptr) break;  // it returns nothing
+      dynamic_cast<KYROperation&>(*feature).addReturnType(convertType(element->type));
+      break;
+    }
+    default:
+      break;
+  }
+}
+
+// All that has no type shares one that is undefined.
+KYRType* KYROmgUml2XmiImportBridge::typeOf(const UMLTypedElement* element) {
+  if (element != nullptr && element->type != nullptr) return convertType(element->type);
+  return getDerivedType(undefinedName, KYRString::getEmptyString(), 0, 0, true);
+}
+
+KYRType* KYROmgUml2XmiImportBridge::convertType(UMLType* element) {
+  if (element->name.isEmpty()) return getDerivedType(undefinedName, element->id, 0, 0, true);
+  const int kind = element->getKind();
+  if (kind == UMLEnumeration::kind) return convertEnumeration(umlCast<UMLEnumeration>(element));
+  if (kind == UMLClass::kind || kind == UMLInterface::kind) {
+    if (auto* const typeClass = dynamic_cast<KYRClass*>(element->repositoryObject)) return getClassType(typeClass);
+  }
+  // A class that was dropped lives on here, as a type of its name.
+  return getDerivedType(element->name, element->id, element->length, element->scale, true);
+}
+
+KYRDerivedType* KYROmgUml2XmiImportBridge::getDerivedType(const KYRString& typeName, const KYRString& sourceId,
+                                                          int length, int scale, bool withBase) {
+  const KYRString logicalName = buildLogicalName(typeName, length, scale);
+  if (auto* const known = dynamic_cast<KYRDerivedType*>(
+          findDerivedType(storeModel, logicalName, length, scale, KYRElementType::derivedType))) {
+    return known;
+  }
+  auto made = std::make_unique<KYRDerivedType>();
+  made->dataType = dataTypeConverter->getImportTypeName(typeName);
+  made->nativeDataType = typeName;
+  made->setName(logicalName);
+  made->userDefined = true;
+  made->sourceId = sourceId;
+  if (!isUndefined(made->dataType)) {
+    made->length = length;
+    made->scale = scale;
+  }
+  storeModel->addType(made.get());
+  KYRDerivedType* const type = made.release();  // ownership: the model
+  if (withBase) ensureBaseType(type);
+  if (type->getName().isEmpty()) type->setName(undefinedName);
+  return type;
+}
+
+KYRConcreteType* KYROmgUml2XmiImportBridge::findDerivedType(KYRStoreModel* model, const KYRString& name,
+                                                            int length, int scale, int elementType) {
+  return typeIndex_.find(*model, name, length, scale, elementType);
+}
+
+void KYROmgUml2XmiImportBridge::ensureBaseType(KYRDerivedType* type) {
+  if (type->baseConcreteType == nullptr) type->addDerivedFromConcreteType(getBaseType(type->dataType));
+}
+
+KYRConcreteType* KYROmgUml2XmiImportBridge::getBaseType(const KYRString& dataType) {
+  const KYRString& logicalName = getDefaultLogicalName(dataType);
+  KYRConcreteType*& base = baseTypes_[std::string(logicalName.view())];
+  if (base != nullptr) return base;
+  base = dynamic_cast<KYRConcreteType*>(getType(storeModel, logicalName, KYRElementType::baseType));
+  if (base != nullptr) return base;
+  std::unique_ptr<KYRConcreteType> made(createBaseType(logicalName));
+  storeModel->addType(made.get());
+  base = made.release();  // ownership: the model
+  return base;
+}
+
+KYRClassType* KYROmgUml2XmiImportBridge::getClassType(KYRClass* typeClass) {
+  if (typeClass == nullptr) return nullptr;
+  if (typeClass->classType != nullptr) return typeClass->classType;
+  auto made = std::make_unique<KYRClassType>();
+  made->setName(typeClass->getName());
+  made->setPhysicalName(undefinedName);
+  made->addAssociatedClass(typeClass);
+  made->addModel(storeModel);
+  KYRClassType* const type = made.release();  // ownership: the model
+  type->sourceId = typeClass->sourceId + classTypeSuffix;
+  return type;
+}

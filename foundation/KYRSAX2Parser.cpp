@@ -1,0 +1,69 @@
+// KYRSAX2Parser: hands the events of a document on to the callbacks while the document grows.
+#include "foundation/KYRSAX2Parser.h"
+
+#include "foundation/xml/XmlDocumentReader.h"
+#include "foundation/xml/XmlPosition.h"
+
+class KYRSAX2Parser::State final : public XmlDocumentListener {
+ public:
+  State(void* userData, StartCallback start, EndCallback end, CharactersCallback text,
+        FourthCallback fourth) noexcept
+      : userData_(userData), start_(start), end_(end), characters_(text), fourth_(fourth) {}
+
+  void parse(const KYRFile& file) { readXmlFile(file, this, fourth_ != nullptr); }
+
+  void startDocument(const std::shared_ptr<const XmlDocument>& document) override {
+    document_ = document;
+    lastElement_ = XmlDocument::noNode;
+  }
+  void startElement(XmlDocument::Node node) override {
+    lastElement_ = node;
+    if (start_ == nullptr) return;
+    attributes_.clear();
+    for (std::uint32_t index = 0; index < document_->getAttributeCount(node); ++index) {
+      attributes_.addBorrowed(document_->getNameText(document_->getAttributeName(node, index)));
+      attributes_.addBorrowed(document_->getAttributeValue(node, index));
+    }
+    start_(userData_, document_->getTag(node), attributes_);
+  }
+  void endElement(XmlDocument::Node node) override {
+    if (end_ != nullptr) end_(userData_, document_->getTag(node));
+  }
+  void characters(XmlDocument::Node node) override {
+    if (characters_ != nullptr) characters_(userData_, document_->getText(node));
+  }
+  void processingInstruction(const KYRString& target, const KYRString& data) override {
+    if (fourth_ != nullptr) fourth_(userData_, target, data);
+  }
+
+  KYRString getPosition() const {
+    if (lastElement_ == XmlDocument::noNode) return KYRString();
+    return KYRStdMessages::XML_POSITION.toString(toText(document_->getLine(lastElement_)),
+                                                 toText(document_->getColumn(lastElement_)));
+  }
+  const std::shared_ptr<const XmlDocument>& getDocument() const noexcept { return document_; }
+
+ private:
+  void* userData_;
+  StartCallback start_;
+  EndCallback end_;
+  CharactersCallback characters_;
+  FourthCallback fourth_;
+  std::shared_ptr<const XmlDocument> document_;
+  XmlDocument::Node lastElement_ = XmlDocument::noNode;
+  KYRStringArray attributes_;  // of the element under way; its room serves all of them
+};
+
+KYRSAX2Parser::KYRSAX2Parser(void* userData, KYRLog*, StartCallback start, EndCallback end,
+                             CharactersCallback characters, FourthCallback fourth)
+    : state_(std::make_unique<State>(userData, start, end, characters, fourth)) {}
+
+KYRSAX2Parser::~KYRSAX2Parser() = default;
+
+void KYRSAX2Parser::parseFile(const KYRFile& file) { state_->parse(file); }
+
+KYRString KYRSAX2Parser::getPosition() const { return state_->getPosition(); }
+
+std::shared_ptr<const XmlDocument> KYRSAX2Parser::getDocument() const noexcept {
+  return state_->getDocument();
+}

@@ -1,0 +1,58 @@
+// XmlBlockArray<T>: an array that grows by blocks.
+//
+// Nothing is ever moved, so references stay valid, growing needs no room for two copies, and at most
+// one block stands partly empty. T is a plain record or a KYRString that borrows: nothing that would
+// need its destructor, so the blocks are given back as they are.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <new>
+#include <utility>
+#include <vector>
+
+template <class T>
+class XmlBlockArray {
+ public:
+  static constexpr std::size_t blockShift = 12;
+  static constexpr std::size_t blockSize = std::size_t{1} << blockShift;
+
+  std::size_t size() const noexcept { return size_; }
+  const T& operator[](std::size_t index) const noexcept { return *at(index); }
+  T& operator[](std::size_t index) noexcept { return *at(index); }
+
+  template <class... Argument>
+  T& emplaceBack(Argument&&... arguments) {
+    T* const added = new (makeRoom()) T{std::forward<Argument>(arguments)...};
+    ++size_;
+    return *added;
+  }
+  /// Appends what `make` returns, made in place.
+  template <class Make>
+  T& appendMade(Make make) {
+    T* const added = new (makeRoom()) T(make());
+    ++size_;
+    return *added;
+  }
+  std::size_t getMemorySize() const noexcept { return blocks_.size() * blockSize * sizeof(T); }
+
+ private:
+  struct Release {
+    void operator()(T* block) const noexcept { ::operator delete(block); }
+  };
+  using Block = std::unique_ptr<T, Release>;
+
+  T* makeRoom() {
+    if ((size_ >> blockShift) == blocks_.size()) {
+      blocks_.push_back(Block(static_cast<T*>(::operator new(blockSize * sizeof(T)))));
+    }
+    return at(size_);
+  }
+  T* at(std::size_t index) const noexcept {
+    return blocks_[index >> blockShift].get() + (index & (blockSize - 1));
+  }
+
+  std::vector<Block> blocks_;
+  std::size_t size_ = 0;
+};

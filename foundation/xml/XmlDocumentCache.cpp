@@ -1,0 +1,24 @@
+#include "foundation/xml/XmlDocumentCache.h"
+
+#include <algorithm>
+
+XmlDocumentCache& XmlDocumentCache::get() noexcept {
+  static XmlDocumentCache cache;
+  return cache;
+}
+
+std::shared_ptr<const XmlDocument> XmlDocumentCache::find(const XmlFileIdentity& identity,
+                                                          const std::string& forcedEncoding) {
+  for (const Entry& entry : entries_) {
+    if (entry.identity == identity && entry.forcedEncoding == forcedEncoding) {
+      if (std::shared_ptr<const XmlDocument> document = entry.document.lock()) return document;
+    }
+  }
+  return nullptr;
+}
+
+void XmlDocumentCache::add(const XmlFileIdentity& identity, const std::string& forcedEncoding,
+                           const std::shared_ptr<const XmlDocument>& document) {
+  std::erase_if(entries_, [](const Entry& entry) { return entry.document.expired(); });
+  entries_.push_back({identity, forcedEncoding, document});
+}

@@ -1,0 +1,20 @@
+#include "foundation/xml/XmlDocumentListener.h"
+
+XmlDocumentListener::~XmlDocumentListener() = default;
+
+void replayDocument(const std::shared_ptr<const XmlDocument>& document, XmlDocumentListener& listener) {
+  using Node = XmlDocument::Node;
+  const XmlDocument& nodes = *document;
+  listener.startDocument(document);
+  Node open = XmlDocument::noNode;  // the innermost element that has not ended
+  for (Node node = 0; node < nodes.getNodeCount(); ++node) {
+    for (; open != nodes.getParent(node); open = nodes.getParent(open)) listener.endElement(open);
+    if (nodes.isElement(node)) {
+      listener.startElement(node);
+      open = node;
+    } else {
+      listener.characters(node);
+    }
+  }
+  for (; open != XmlDocument::noNode; open = nodes.getParent(open)) listener.endElement(open);
+}

@@ -1,0 +1,18 @@
+// The one door through which both XML readers get at documents.
+#pragma once
+
+#include <memory>
+
+#include "foundation/KYRFile.h"
+#include "foundation/xml/XmlDocumentListener.h"
+#include "foundation/xml/XmlInput.h"
+#include "foundation/xml/XmlTokenizer.h"
+
+/// The document of a file. When that of the same unchanged file still lives, the file is not read: the
+/// listener, which may be null, then follows a walk of that document. `needsInstructions` tells that
+/// processing instructions matter to the listener; the file is read in any case then.
+KYR_EXPORT std::shared_ptr<const XmlDocument> readXmlFile(const KYRFile& file, XmlDocumentListener* listener,
+                                                          bool needsInstructions);
+/// The document of any other input; the cache plays no part.
+KYR_EXPORT std::shared_ptr<const XmlDocument> readXmlInput(
+    XmlInput& input, XmlDocumentListener* listener, std::size_t blockSize = XmlTokenizer::defaultBlockSize);

@@ -1,0 +1,100 @@
+// The frame around every command: output, log, plug-in, and the handling of what is raised.
+#include "host/CommandLine.h"
+
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstring>
+#include <exception>
+#include <new>
+
+#include "foundation/KYRException.h"
+#include "foundation/xml/XmlLimits.h"
+#include "host/CommandRequest.h"
+#include "host/ExitCode.h"
+#include "host/HostLog.h"
+#include "host/KYRHostMessages.h"
+#include "host/PluginLibrary.h"
+
+namespace {
+
+using Kind = CommandRequest::Kind;
+
+// What a command works with. The plug-in stays loaded while an exception out of it is handled.
+struct Tools {
+  explicit Tools(const CommandRequest& request) : log(request.import.format, lightestShown(request)) {}
+  static int lightestShown(const CommandRequest& request) {
+    // The report of an inspection says what lesser messages would.
+    if (request.kind == Kind::inspect) return KYRLogLevel::fatal;
+    return request.import.isQuiet ? KYRLogLevel::warning : KYRLogLevel::status;
+  }
+
+  Output output{STDOUT_FILENO};
+  HostLog log;
+  PluginLibrary library;
+};
+
+int perform(const CommandRequest& request, Tools& tools) {
+  if (!request.encoding.empty()) forceXmlEncoding(request.encoding.c_str());
+  switch (request.kind) {
+    case Kind::import:
+      return ImportCommand(request.import, tools.library, tools.output, tools.log).run();
+    case Kind::info:
+      InfoCommand(request.info, tools.library, tools.output).run();
+      return ExitCode::done;
+    case Kind::inspect:
+      InspectCommand(request.inspect, tools.output, tools.log).run();
+      return ExitCode::done;
+    case Kind::answer:
+      tools.output.write(request.text);
+      return ExitCode::done;
+    case Kind::wrongUsage:
+      break;
+  }
+  tools.log.fail(
+      KYRHostMessages::WRONG_USAGE.getMessage(KYRString(request.text), KYRString(request.command)));
+  return ExitCode::wrongUsage;
+}
+
+int performSafely(const CommandRequest& request, Tools& tools) {
+  try {
+    return perform(request, tools);
+  } catch (const KYRException& exception) {
+    tools.log.fail(exception.getMessage());
+  } catch (const std::bad_alloc&) {
+    tools.log.fail(KYRHostMessages::OUT_OF_MEMORY.getMessage());
+  } catch (const std::exception& exception) {
+    tools.log.fail(KYRHostMessages::UNEXPECTED_ERROR.getMessage(KYRString(exception.what())));
+  } catch (...) {
+    tools.log.fail(KYRHostMessages::UNEXPECTED_ERROR.getMessage(KYRString()));
+  }
+  return ExitCode::failed;
+}
+
+// Where the output is the result, a command that cannot write it has failed. The result of an import
+// is its file.
+int finish(const CommandRequest& request, Tools& tools, int code) {
+  tools.output.flush();
+  const int error = tools.output.getError();
+  if (error != 0) {
+    tools.log.fail(KYRHostMessages::CANNOT_WRITE_OUTPUT.getMessage(KYRString(std::strerror(error))));
+    if (request.kind != Kind::import) code = ExitCode::failed;
+  }
+  tools.log.finish();
+  return code;
+}
+
+}  // namespace
+
+int runCommandLine(int argumentCount, const char* const* arguments) noexcept {
+  try {
+    const CommandRequest request = readCommandLine(argumentCount, arguments);
+    Tools tools(request);
+    return finish(request, tools, performSafely(request, tools));
+  } catch (...) {
+    // Not even a message could be made: the text goes out as it lies in memory.
+    std::fputs(KYRHostMessages::OUT_OF_MEMORY.getText().getCharacters(), stderr);
+    std::fputs("\n", stderr);
+    return ExitCode::failed;
+  }
+}

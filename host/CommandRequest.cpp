@@ -1,0 +1,144 @@
+// The definition of the command line: commands, options and their checks.
+#include "host/CommandRequest.h"
+
+#include <CLI/CLI.hpp>
+#include <sstream>
+
+#include "foundation/KYRDate.h"
+#include "host/HelpFormatter.h"
+#include "host/HostVersion.h"
+#include "host/KYRHostTexts.h"
+
+namespace {
+
+constexpr const char* programName = "kyr";
+constexpr const char* jsonFormat = "json";
+constexpr const char* textFormat = "text";
+
+std::string textOf(const HostText<0>& literal) { return std::string(literal.getText().view()); }
+
+// Empty for a text that is a time, else what is wrong with it.
+std::string checkTime(const std::string& text) {
+  std::int64_t time = 0;
+  if (KYRDate::parseIsoTimestamp(KYRString(text), time)) return {};
+  return std::string(KYRHostTexts::NOT_A_TIME.toString(KYRString(text)).view());
+}
+
+class Definition {
+ public:
+  explicit Definition(CommandRequest& request);
+  void read(int argumentCount, const char* const* arguments);
+
+ private:
+  CLI::App& addCommand(const char* name, const HostText<0>& help, const HostText<0>& examples);
+  void defineImport();
+  void defineLogFormat(CLI::App& command);
+  void defineInfo();
+  void defineInspect();
+  static void addPlugin(CLI::App& command, std::string& path);
+  void addEncoding(CLI::App& command);
+
+  CommandRequest& request_;
+  CLI::App app_;
+};
+
+Definition::Definition(CommandRequest& request)
+    : request_(request), app_(textOf(KYRHostTexts::HELP), programName) {
+  app_.formatter(std::make_shared<HelpFormatter>());  // commands take it over
+  app_.footer(textOf(KYRHostTexts::HELP_EXAMPLES));
+  app_.set_help_flag("-h,--help", textOf(KYRHostTexts::HELP_HELP));
+  const KYRString version = KYRHostTexts::VERSION.toString(KYRString(hostVersion));
+  app_.set_version_flag("--version", version.getCharacters(), textOf(KYRHostTexts::HELP_VERSION));
+  app_.require_subcommand(1, 1);
+  defineImport();
+  defineInfo();
+  defineInspect();
+}
+
+CLI::App& Definition::addCommand(const char* name, const HostText<0>& help, const HostText<0>& examples) {
+  CLI::App* const command = app_.add_subcommand(name, textOf(help));
+  command->group(textOf(KYRHostTexts::HELP_COMMANDS));
+  command->footer(textOf(examples));
+  command->set_help_flag("-h,--help", textOf(KYRHostTexts::HELP_HELP));
+  return *command;
+}
+
+void Definition::defineImport() {
+  using namespace KYRHostTexts;
+  CLI::App& command = addCommand("import", IMPORT_HELP, IMPORT_HELP_EXAMPLES);
+  ImportCommand::Settings& settings = request_.import;
+  command.add_option("FILE", settings.file, textOf(IMPORT_HELP_FILE))->required()->type_name("");
+  command.add_option("-o,--output", settings.output, textOf(IMPORT_HELP_OUTPUT))->type_name("PATH");
+  command.add_option("--root-package", settings.rootPackage, textOf(IMPORT_HELP_ROOT_PACKAGE))
+      ->type_name("NAME");
+  command.add_option("--modification-time", settings.modificationTime, textOf(IMPORT_HELP_MODIFICATION_TIME))
+      ->type_name("TIME")
+      ->check(CLI::Validator(checkTime, ""));
+  addEncoding(command);
+  command.add_flag("-q,--quiet", settings.isQuiet, textOf(IMPORT_HELP_QUIET));
+  defineLogFormat(command);
+  command.add_option("--log-file", settings.logFile, textOf(IMPORT_HELP_LOG_FILE))->type_name("PATH");
+  addPlugin(command, settings.plugin);
+}
+
+void Definition::defineLogFormat(CLI::App& command) {
+  const auto set = [this](const std::string& name) {
+    request_.import.format = name == jsonFormat ? HostLog::Format::json : HostLog::Format::text;
+  };
+  command.add_option_function<std::string>("--log-format", set, textOf(KYRHostTexts::IMPORT_HELP_LOG_FORMAT))
+      ->type_name("FORMAT")
+      ->check(CLI::IsMember({textFormat, jsonFormat}).description(""));
+}
+
+void Definition::defineInfo() {
+  using namespace KYRHostTexts;
+  CLI::App& command = addCommand("info", INFO_HELP, INFO_HELP_EXAMPLES);
+  command.add_flag("--json", request_.info.isJson, textOf(INFO_HELP_JSON));
+  addPlugin(command, request_.info.plugin);
+}
+
+void Definition::defineInspect() {
+  using namespace KYRHostTexts;
+  CLI::App& command = addCommand("inspect", INSPECT_HELP, INSPECT_HELP_EXAMPLES);
+  InspectCommand::Settings& settings = request_.inspect;
+  command.add_option("FILE", settings.file, textOf(INSPECT_HELP_FILE))->required()->type_name("");
+  command.add_flag("--json", settings.isJson, textOf(INSPECT_HELP_JSON));
+  command.add_flag("--objects", settings.listsObjects, textOf(INSPECT_HELP_OBJECTS));
+  addEncoding(command);
+}
+
+void Definition::addPlugin(CLI::App& command, std::string& path) {
+  command.add_option("--plugin", path, textOf(KYRHostTexts::HELP_PLUGIN))->type_name("PATH");
+}
+
+void Definition::addEncoding(CLI::App& command) {
+  command.add_option("--encoding", request_.encoding, textOf(KYRHostTexts::HELP_ENCODING))->type_name("NAME");
+}
+
+void Definition::read(int argumentCount, const char* const* arguments) {
+  try {
+    app_.parse(argumentCount, arguments);
+  } catch (const CLI::ParseError& error) {
+    request_.command = programName;
+    for (const CLI::App* const command : app_.get_subcommands())
+      request_.command += ' ' + command->get_name();
+    const bool isAnswer = error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success);
+    request_.kind = isAnswer ? CommandRequest::Kind::answer : CommandRequest::Kind::wrongUsage;
+    std::ostringstream answer;
+    if (isAnswer) app_.exit(error, answer, answer);
+    request_.text = isAnswer ? answer.str() : error.what();
+    return;
+  }
+  using Kind = CommandRequest::Kind;
+  request_.kind = app_.got_subcommand("import") ? Kind::import
+                  : app_.got_subcommand("info") ? Kind::info
+                                                : Kind::inspect;
+}
+
+}  // namespace
+
+CommandRequest readCommandLine(int argumentCount, const char* const* arguments) {
+  CommandRequest request;
+  Definition(request).read(argumentCount, arguments);
+  return request;
+}

@@ -1,0 +1,29 @@
+// CommandRequest: what a command line asks for.
+#pragma once
+
+#include <string>
+
+#include "host/ImportCommand.h"
+#include "host/InfoCommand.h"
+#include "host/InspectCommand.h"
+
+struct CommandRequest {
+  enum class Kind {
+    import,
+    info,
+    inspect,
+    answer,      // help or version: `text` is to be printed
+    wrongUsage,  // `text` says why, and `command` which words were understood
+  };
+
+  Kind kind = Kind::wrongUsage;
+  ImportCommand::Settings import;
+  InfoCommand::Settings info;
+  InspectCommand::Settings inspect;
+  std::string encoding;  // empty: as each file says
+  std::string text;
+  std::string command;  // "kyr", "kyr import"
+};
+
+/// Reads the arguments; the first one is the name of the program.
+CommandRequest readCommandLine(int argumentCount, const char* const* arguments);

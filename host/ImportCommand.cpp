@@ -1,0 +1,117 @@
+// One import by the plug-in, and what is said of it.
+#include "host/ImportCommand.h"
+
+#include <chrono>
+#include <cstdio>
+#include <memory>
+#include <optional>
+
+#include "foundation/KYRFile.h"
+#include "foundation/KYROption.h"
+#include "host/ExitCode.h"
+#include "host/FileNames.h"
+#include "host/KYRHostMessages.h"
+#include "host/KYRHostTexts.h"
+#include "host/PluginLibrary.h"
+#include "host/SavedModelCounts.h"
+#include "host/TextOut.h"
+#include "repository/plugin/KYRImportBridgeDllInterface.h"
+
+namespace {
+
+// Names the host as the origin of the model.
+constexpr const char* originId = "kyr";
+
+constexpr const char* fileOption = "BP_FILE";
+constexpr const char* rootPackageOption = "BP_ROOT_PACKAGE";
+// Read by libkyr, not by the plug-in, hence in no list of options that a plug-in gives.
+constexpr const char* modificationTimeOption = "BP_MODIFICATION_TIME";
+
+KYRString inSeconds(double seconds) {
+  char text[32];
+  std::snprintf(text, sizeof text, "%.2f", seconds);
+  return KYRString(text);
+}
+
+void countsToJson(JsonOut& json, const SavedModelCounts& counts) {
+  json.key("packages").number(counts.packages);
+  json.key("classes").number(counts.classes);
+  json.key("interfaces").number(counts.interfaces);
+  json.key("attributes").number(counts.attributes);
+  json.key("operations").number(counts.operations);
+  json.key("arguments").number(counts.arguments);
+}
+
+}  // namespace
+
+int ImportCommand::run() {
+  using Clock = std::chrono::steady_clock;
+  const Clock::time_point start = Clock::now();
+  target_ = FileNames::outputOf(settings_.file, settings_.output);
+  if (filesClash()) return ExitCode::wrongUsage;
+  if (!settings_.logFile.empty()) log_.openFile(settings_.logFile);
+  library_.load(settings_.plugin);
+  KYROptionList options;
+  fillOptions(options);
+  KYRFile target{KYRString(target_)};
+  if (!library_.getPlugin().run(originId, target, options, log_)) {
+    KYRHostMessages::PLUGIN_REFUSED.throwException();
+  }
+  if (!settings_.isQuiet) writeSummary(std::chrono::duration<double>(Clock::now() - start).count());
+  return ExitCode::done;
+}
+
+bool ImportCommand::filesClash() {
+  if (FileNames::isSame(settings_.file, target_)) {
+    log_.fail(KYRHostMessages::OUTPUT_IS_INPUT.getMessage(KYRString(target_)));
+    return true;
+  }
+  if (settings_.logFile.empty()) return false;
+  if (FileNames::isSame(settings_.logFile, settings_.file)) {
+    log_.fail(KYRHostMessages::LOG_FILE_IS_INPUT.getMessage(KYRString(settings_.logFile)));
+    return true;
+  }
+  if (FileNames::isSame(settings_.logFile, target_)) {
+    log_.fail(KYRHostMessages::LOG_FILE_IS_OUTPUT.getMessage(KYRString(settings_.logFile)));
+    return true;
+  }
+  return false;
+}
+
+void ImportCommand::fillOptions(KYROptionList& options) {
+  library_.getPlugin().getOptionList(options);
+  setOption(options, fileOption, settings_.file);
+  if (!settings_.rootPackage.empty()) setOption(options, rootPackageOption, settings_.rootPackage);
+  if (settings_.modificationTime.empty()) return;
+  auto time = std::make_unique<KYROption>(modificationTimeOption, modificationTimeOption, OptionType::text,
+                                          KYRString(), KYRString(), false);
+  time->setValue(KYRString(settings_.modificationTime));
+  options.add(time.release());  // takes ownership whatever it answers
+}
+
+void ImportCommand::setOption(KYROptionList& options, const char* identifier, const std::string& value) {
+  KYROption* const option = options.get(identifier);
+  if (option == nullptr) {
+    KYRHostMessages::PLUGIN_NO_OPTION.throwException(KYRString(library_.getPath()), KYRString(identifier));
+  }
+  option->setValue(KYRString(value));
+}
+
+void ImportCommand::writeSummary(double seconds) {
+  const std::optional<SavedModelCounts> counts = SavedModelCounts::read(target_);
+  if (settings_.format == HostLog::Format::json) {
+    JsonOut json;
+    json.beginObject();
+    json.key("output").text(target_);
+    json.key("seconds").real(seconds);
+    if (counts.has_value()) countsToJson(json, *counts);
+    json.endObject();
+    output_.write(json.endLine());
+    return;
+  }
+  TextOut out(output_);
+  out.line(KYRHostTexts::SUMMARY, target_, inSeconds(seconds));
+  if (!counts.has_value()) return;
+  out.line(KYRHostTexts::SUMMARY_COUNTS, counts->packages, counts->classes, counts->interfaces,
+           counts->attributes, counts->operations, counts->arguments);
+}

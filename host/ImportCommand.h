@@ -1,0 +1,42 @@
+// ImportCommand: `kyr import`, from the command line to the options of the plug-in and back.
+#pragma once
+
+#include <string>
+
+#include "host/HostLog.h"
+#include "host/Output.h"
+
+class KYROptionList;
+class PluginLibrary;
+
+class ImportCommand {
+ public:
+  struct Settings {
+    std::string file;
+    std::string output;  // empty: named after the file
+    std::string rootPackage;
+    std::string modificationTime;  // ISO 8601; empty: the present
+    std::string plugin;            // empty: the one of this installation
+    std::string logFile;           // empty: none
+    bool isQuiet = false;
+    HostLog::Format format = HostLog::Format::text;
+  };
+
+  /// `library` must outlive the handling of an exception, which may come from the plug-in.
+  ImportCommand(Settings settings, PluginLibrary& library, Output& output, HostLog& log)
+      : settings_(std::move(settings)), library_(library), output_(output), log_(log) {}
+  /// The exit code. Raises KYRException for an import that fails; no output file is written then.
+  int run();
+
+ private:
+  bool filesClash();
+  void fillOptions(KYROptionList& options);
+  void setOption(KYROptionList& options, const char* identifier, const std::string& value);
+  void writeSummary(double seconds);
+
+  Settings settings_;
+  PluginLibrary& library_;
+  Output& output_;
+  HostLog& log_;
+  std::string target_;
+};

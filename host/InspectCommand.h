@@ -1,0 +1,35 @@
+// InspectCommand: `kyr inspect`, what the reader makes of a file.
+//
+// It drives the reader itself and no plug-in: nothing is converted or saved.
+#pragma once
+
+#include <string>
+
+#include "host/Output.h"
+
+class InspectReport;
+class KYRLog;
+class XMIParser;
+
+class InspectCommand {
+ public:
+  struct Settings {
+    std::string file;
+    bool isJson = false;
+    bool listsObjects = false;
+  };
+
+  InspectCommand(Settings settings, Output& output, KYRLog& log)
+      : settings_(std::move(settings)), output_(output), log_(log) {}
+  /// Reads the file and writes the report or the objects. Raises KYRException for a file that the
+  /// reader refuses; nothing is written then.
+  void run();
+
+ private:
+  void writeText(const XMIParser& parser, const InspectReport& report);
+  void writeJson(const XMIParser& parser, const InspectReport& report);
+
+  Settings settings_;
+  Output& output_;
+  KYRLog& log_;
+};

@@ -1,0 +1,98 @@
+// The help of the command line, for readers who have never seen the program.
+#include "host/KYRHostTexts.h"
+
+namespace KYRHostTexts {
+
+const HostText<0> HELP(
+    "HELP",
+    "Imports UML models from XMI files.\n"
+    "\n"
+    "Design tools write their models as XMI files, each in its own manner. kyr reads such a\n"
+    "file (XMI 2.x with UML 2.x), and saves its packages, classes, interfaces, attributes,\n"
+    "operations and what ties them together as one JSON document.");
+const HostText<0> HELP_EXAMPLES(
+    "HELP_EXAMPLES",
+    "Example:\n"
+    "  kyr import shop.xmi -o shop.json\n"
+    "\n"
+    "'kyr COMMAND --help' tells more of a command.\n"
+    "\n"
+    "Exit codes: 0 done, 1 failed (the reason is on the standard error output), 2 wrong\n"
+    "usage.");
+const HostText<0> HELP_ARGUMENTS("HELP_ARGUMENTS", "Arguments");
+const HostText<0> HELP_COMMANDS("HELP_COMMANDS", "Commands");
+const HostText<0> HELP_COMMAND("HELP_COMMAND", "COMMAND");
+const HostText<0> HELP_VERSION("HELP_VERSION", "Print the version and end");
+const HostText<0> HELP_HELP("HELP_HELP", "Print this help and end");
+const HostText<0> HELP_ENCODING(
+    "HELP_ENCODING", "Read the file in this encoding, such as windows-1252, whatever it says of itself");
+const HostText<0> HELP_PLUGIN("HELP_PLUGIN", "Use the plug-in in this file instead of the installed one");
+
+const HostText<0> IMPORT_HELP(
+    "IMPORT_HELP",
+    "Import a model file and save the model as JSON.\n"
+    "\n"
+    "The model is written when the import has succeeded, and then as a whole: after a\n"
+    "failure the output file is as it was before. What the import finds worth telling is\n"
+    "written to the standard error output, one message a line with its level (STATUS,\n"
+    "WARNING or FATAL) and its code. The last line, on the standard output, counts what\n"
+    "was imported.");
+const HostText<0> IMPORT_HELP_EXAMPLES("IMPORT_HELP_EXAMPLES",
+                                       "Examples:\n"
+                                       "  kyr import shop.xmi                     writes shop.json here\n"
+                                       "  kyr import shop.xmi -o models/          writes models/shop.json\n"
+                                       "  kyr import shop.xmi --quiet --log-file shop.log --log-format json");
+const HostText<0> IMPORT_HELP_FILE("IMPORT_HELP_FILE", "The model file: .xmi, .xml, .uml or any other name");
+const HostText<0> IMPORT_HELP_OUTPUT(
+    "IMPORT_HELP_OUTPUT",
+    "The file to write, or a folder to write it in. Without it: the name of the "
+    "model file with the extension .json, in the current folder");
+const HostText<0> IMPORT_HELP_ROOT_PACKAGE(
+    "IMPORT_HELP_ROOT_PACKAGE",
+    "Put what stands in no package into a package of this name. If the model has a single top package of "
+    "that name, it is marked as one that a destination may leave out");
+const HostText<0> IMPORT_HELP_MODIFICATION_TIME(
+    "IMPORT_HELP_MODIFICATION_TIME",
+    "The time of modification to save, instead of the present: ISO 8601, such as 2026-01-01T00:00:00Z. The "
+    "same file then gives the same bytes");
+const HostText<0> IMPORT_HELP_QUIET("IMPORT_HELP_QUIET",
+                                    "Print warnings and errors only: no STATUS lines and no summary");
+const HostText<0> IMPORT_HELP_LOG_FORMAT(
+    "IMPORT_HELP_LOG_FORMAT",
+    "text: lines to read. json: one JSON object a line with \"level\", \"code\" and \"text\", and the "
+    "summary as one with the counts");
+const HostText<0> IMPORT_HELP_LOG_FILE(
+    "IMPORT_HELP_LOG_FILE", "Write all messages to this file too, also those that --quiet keeps back");
+
+const HostText<0> INFO_HELP(
+    "INFO_HELP",
+    "Tell what the import plug-in is and can do.\n"
+    "\n"
+    "Version, supported tools with the steps to export a model from each, options, data\n"
+    "stores, and all messages with their codes.");
+const HostText<0> INFO_HELP_EXAMPLES("INFO_HELP_EXAMPLES",
+                                     "Examples:\n"
+                                     "  kyr info\n"
+                                     "  kyr info --json");
+const HostText<0> INFO_HELP_JSON("INFO_HELP_JSON", "Print one JSON object");
+
+const HostText<0> INSPECT_HELP(
+    "INSPECT_HELP",
+    "Show what the reader makes of a model file. Nothing is saved.\n"
+    "\n"
+    "The tool that wrote the file and the versions of UML and XMI in it, how many objects\n"
+    "of each UML class were read, which references lead nowhere, and which parts of the\n"
+    "file are not understood.");
+const HostText<0> INSPECT_HELP_EXAMPLES(
+    "INSPECT_HELP_EXAMPLES",
+    "Examples:\n"
+    "  kyr inspect shop.xmi\n"
+    "  kyr inspect shop.xmi --objects | grep '\"class\":\"UMLProperty\"'");
+const HostText<0> INSPECT_HELP_FILE("INSPECT_HELP_FILE", "The model file");
+const HostText<0> INSPECT_HELP_JSON("INSPECT_HELP_JSON", "Print the report as one JSON object");
+const HostText<0> INSPECT_HELP_OBJECTS(
+    "INSPECT_HELP_OBJECTS",
+    "Instead of the report, print each UML object as one line of JSON, in order of reading. References are "
+    "indexes of other lines, counted from 0");
+
+}  // namespace KYRHostTexts

@@ -1,0 +1,64 @@
+// The texts of the command's own messages, and the catalogue that they enter when they are made.
+#include "host/KYRHostMessages.h"
+
+#include <vector>
+
+namespace {
+
+const char fatal[] = "FATAL";
+const char warning[] = "WARNING";
+
+std::vector<KYRTextLiteral*>& entered() {
+  static std::vector<KYRTextLiteral*> literals;
+  return literals;
+}
+
+}  // namespace
+
+void HostLiterals::enter(KYRTextLiteral* literal) { entered().push_back(literal); }
+
+const HostMessage<2> KYRHostMessages::WRONG_USAGE(1, fatal, "{0}. '{1} --help' tells more.");
+const HostMessage<1> KYRHostMessages::OUTPUT_IS_INPUT(
+    2, fatal,
+    "The model would be written over the file that is to be imported, '{0}'; '-o' names another one");
+const HostMessage<1> KYRHostMessages::LOG_FILE_IS_INPUT(
+    3, fatal, "The log file '{0}' is the file that is to be imported");
+const HostMessage<1> KYRHostMessages::LOG_FILE_IS_OUTPUT(
+    4, fatal, "The log file '{0}' is the file that the model is to be written to");
+
+const HostMessage<3> KYRHostMessages::PLUGIN_NOT_FOUND(
+    5, fatal,
+    "The plug-in '{0}' is missing: it is neither at '{1}' nor at '{2}'; '--plugin PATH' names it elsewhere");
+const HostMessage<1> KYRHostMessages::PLUGIN_NOT_A_FILE(6, fatal, "The plug-in '{0}' is no file");
+const HostMessage<2> KYRHostMessages::PLUGIN_CANNOT_LOAD(7, fatal, "The plug-in '{0}' cannot be loaded: {1}");
+const HostMessage<2> KYRHostMessages::PLUGIN_NO_ENTRY(
+    8, fatal, "The library '{0}' is no plug-in for UML files: it does not offer the function '{1}'");
+const HostMessage<2> KYRHostMessages::PLUGIN_NO_OPTION(9, fatal, "The plug-in '{0}' has no option '{1}'");
+const HostMessage<0> KYRHostMessages::PLUGIN_REFUSED(
+    10, fatal, "The plug-in says that the import failed, and does not say why");
+
+const HostMessage<2> KYRHostMessages::LOG_FILE_CANNOT_OPEN(11, fatal,
+                                                           "The log file '{0}' cannot be opened: {1}");
+const HostMessage<2> KYRHostMessages::LOG_FILE_INCOMPLETE(12, warning,
+                                                          "The log file '{0}' is not complete: {1}");
+const HostMessage<1> KYRHostMessages::CANNOT_WRITE_OUTPUT(13, fatal,
+                                                          "The standard output cannot be written to: {0}");
+
+const HostMessage<0> KYRHostMessages::OUT_OF_MEMORY(14, fatal, "There is not enough memory");
+const HostMessage<1> KYRHostMessages::UNEXPECTED_ERROR(15, fatal, "An unexpected error occurred: {0}");
+
+KYRHostMessages::KYRHostMessages() : KYRTextLiteralsCollection("kyr", HostLiterals::catalogueName) {
+  for (KYRTextLiteral* literal : entered()) add(literal);
+  init();
+}
+
+const KYRHostMessages& KYRHostMessages::initLiterals() {
+  static const KYRHostMessages catalogue;
+  return catalogue;
+}
+
+const KYRTextLiteral* KYRHostMessages::findTextLiteral(const KYRString& identifier) {
+  return initLiterals().get(identifier);
+}
+
+void KYRHostMessages::getAllLiterals(KYRVector& out) { initLiterals().listAllLiterals(out); }

@@ -1,0 +1,43 @@
+// KYRHostMessages: the catalogue of every text that the command itself says: messages, whose codes start
+// with "KYRHOST_", and the labels of its reports. Help texts are in KYRHostHelp.h.
+//
+// A literal is one row of KYRHostMessages.cpp and one declaration here. Numbers only grow, since users
+// see the codes.
+#pragma once
+
+#include "host/HostLiteral.h"
+
+class KYRVector;
+
+class KYRHostMessages final : public KYRTextLiteralsCollection {
+ public:
+  // Wrong usage.
+  static const HostMessage<2> WRONG_USAGE;
+  static const HostMessage<1> OUTPUT_IS_INPUT;
+  static const HostMessage<1> LOG_FILE_IS_INPUT;
+  static const HostMessage<1> LOG_FILE_IS_OUTPUT;
+  // The plug-in.
+  static const HostMessage<3> PLUGIN_NOT_FOUND;
+  static const HostMessage<1> PLUGIN_NOT_A_FILE;
+  static const HostMessage<2> PLUGIN_CANNOT_LOAD;
+  static const HostMessage<2> PLUGIN_NO_ENTRY;
+  static const HostMessage<2> PLUGIN_NO_OPTION;
+  static const HostMessage<0> PLUGIN_REFUSED;
+  // Files.
+  static const HostMessage<2> LOG_FILE_CANNOT_OPEN;
+  static const HostMessage<2> LOG_FILE_INCOMPLETE;
+  static const HostMessage<1> CANNOT_WRITE_OUTPUT;
+  // What should not happen.
+  static const HostMessage<0> OUT_OF_MEMORY;
+  static const HostMessage<1> UNEXPECTED_ERROR;
+
+  /// The one catalogue, built at the first call.
+  static const KYRHostMessages& initLiterals();
+  /// The literal of that identifier, or null.
+  static const KYRTextLiteral* findTextLiteral(const KYRString& identifier);
+  /// Appends all literals as `const KYRTextLiteral *`.
+  static void getAllLiterals(KYRVector& out);
+
+ private:
+  KYRHostMessages();
+};

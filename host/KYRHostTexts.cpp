@@ -1,0 +1,53 @@
+// The labels of the reports. The help stands in KYRHostHelp.cpp.
+#include "host/KYRHostTexts.h"
+
+namespace KYRHostTexts {
+
+const HostText<1> VERSION("VERSION", "kyr {0}");
+
+const HostText<1> NOT_A_TIME("NOT_A_TIME", "'{0}' is no time as of ISO 8601, such as 2026-01-01T00:00:00Z");
+
+const HostText<2> SUMMARY("SUMMARY", "Wrote '{0}' in {1} s");
+const HostText<6> SUMMARY_COUNTS(
+    "SUMMARY_COUNTS",
+    "packages {0}, classes {1}, interfaces {2}, attributes {3}, operations {4}, arguments {5}");
+
+const HostText<1> INFO_VERSION("INFO_VERSION", "Version:      {0}");
+const HostText<1> INFO_PLUGIN("INFO_PLUGIN", "Plug-in:      {0}");
+const HostText<1> INFO_TOOL("INFO_TOOL", "Tool:         {0}");
+const HostText<1> INFO_TOOL_VERSIONS("INFO_TOOL_VERSIONS", "Versions:     {0}");
+const HostText<1> INFO_VENDOR("INFO_VENDOR", "Vendor:       {0}");
+const HostText<1> INFO_WEB("INFO_WEB", "Web:          {0}");
+const HostText<1> INFO_METHODOLOGY("INFO_METHODOLOGY", "Methodology:  {0}");
+const HostText<1> INFO_MAPPING("INFO_MAPPING", "Mapping:      {0}");
+const HostText<0> INFO_DESCRIPTION("INFO_DESCRIPTION", "Description");
+const HostText<0> INFO_OPTIONS("INFO_OPTIONS", "Options");
+const HostText<2> INFO_OPTION("INFO_OPTION", "  {0}  {1}");
+const HostText<0> INFO_OPTION_MANDATORY("INFO_OPTION_MANDATORY", "    a value must be given");
+const HostText<1> INFO_OPTION_DEFAULT("INFO_OPTION_DEFAULT", "    default: '{0}'");
+const HostText<1> INFO_OPTION_EXTENSIONS("INFO_OPTION_EXTENSIONS", "    usual file extensions: {0}");
+const HostText<0> INFO_DATA_STORES("INFO_DATA_STORES", "Data stores");
+const HostText<3> INFO_DATA_STORE("INFO_DATA_STORE", "  {0} {1}  {2}");
+const HostText<0> INFO_MESSAGES("INFO_MESSAGES", "Messages");
+const HostText<3> INFO_MESSAGE("INFO_MESSAGE", "  {0}  {1}  {2}");
+
+const HostText<1> INSPECT_FILE("INSPECT_FILE", "File:         {0}");
+const HostText<1> INSPECT_TOOL("INSPECT_TOOL", "Tool:         {0}");
+const HostText<1> INSPECT_UML_VERSION("INSPECT_UML_VERSION", "UML version:  {0}");
+const HostText<1> INSPECT_XMI_VERSION("INSPECT_XMI_VERSION", "XMI version:  {0}");
+const HostText<0> INSPECT_UNKNOWN("INSPECT_UNKNOWN", "(not known)");
+const HostText<1> INSPECT_OBJECTS("INSPECT_OBJECTS", "Objects:      {0}");
+const HostText<2> INSPECT_COUNT("INSPECT_COUNT", "  {0}  {1}");
+const HostText<1> INSPECT_MADE("INSPECT_MADE", "  and {0} made of what the tool adds to the file");
+const HostText<3> INSPECT_REFERENCES(
+    "INSPECT_REFERENCES", "References:   {0} resolved, {1} unresolved, {2} between classes that do not fit");
+const HostText<1> INSPECT_WITHOUT_ID("INSPECT_WITHOUT_ID",
+                                     "  {0} of the unresolved are of elements that have no id");
+const HostText<0> INSPECT_MISSING_IDS("INSPECT_MISSING_IDS", "  first ids that no element bears:");
+const HostText<1> INSPECT_MISSING_ID("INSPECT_MISSING_ID", "    {0}");
+const HostText<1> INSPECT_SKIPPED_TYPES("INSPECT_SKIPPED_TYPES", "Skipped values of xmi:type: {0}");
+const HostText<1> INSPECT_UNKNOWN_TAGS("INSPECT_UNKNOWN_TAGS", "Unknown tags: {0}");
+const HostText<3> INSPECT_COUNT_AT("INSPECT_COUNT_AT", "  {0}  {1}  first at {2}");
+const HostText<1> INSPECT_MORE("INSPECT_MORE", "  and {0} more, which '--json' lists");
+
+}  // namespace KYRHostTexts

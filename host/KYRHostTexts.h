@@ -1,0 +1,88 @@
+// KYRHostTexts: the texts of the command that are no messages: the labels of its reports, and the help.
+// They are part of the catalogue KYRHostMessages.
+#pragma once
+
+#include "host/HostLiteral.h"
+
+namespace KYRHostTexts {
+
+// The help texts. Those named HELP_..._EXAMPLES stand behind the list of options.
+extern const HostText<0> HELP;
+extern const HostText<0> HELP_EXAMPLES;
+extern const HostText<0> HELP_ARGUMENTS;
+extern const HostText<0> HELP_COMMANDS;
+extern const HostText<0> HELP_COMMAND;
+extern const HostText<0> HELP_VERSION;
+extern const HostText<0> HELP_HELP;
+extern const HostText<0> HELP_ENCODING;
+extern const HostText<0> HELP_PLUGIN;
+
+extern const HostText<0> IMPORT_HELP;
+extern const HostText<0> IMPORT_HELP_EXAMPLES;
+extern const HostText<0> IMPORT_HELP_FILE;
+extern const HostText<0> IMPORT_HELP_OUTPUT;
+extern const HostText<0> IMPORT_HELP_ROOT_PACKAGE;
+extern const HostText<0> IMPORT_HELP_MODIFICATION_TIME;
+extern const HostText<0> IMPORT_HELP_QUIET;
+extern const HostText<0> IMPORT_HELP_LOG_FORMAT;
+extern const HostText<0> IMPORT_HELP_LOG_FILE;
+
+extern const HostText<0> INFO_HELP;
+extern const HostText<0> INFO_HELP_EXAMPLES;
+extern const HostText<0> INFO_HELP_JSON;
+
+extern const HostText<0> INSPECT_HELP;
+extern const HostText<0> INSPECT_HELP_EXAMPLES;
+extern const HostText<0> INSPECT_HELP_FILE;
+extern const HostText<0> INSPECT_HELP_JSON;
+extern const HostText<0> INSPECT_HELP_OBJECTS;
+
+/// The version of the command itself.
+extern const HostText<1> VERSION;
+
+/// Why a time is wrong usage.
+extern const HostText<1> NOT_A_TIME;
+
+// The closing summary of an import: output file, seconds, and the counts.
+extern const HostText<2> SUMMARY;
+extern const HostText<6> SUMMARY_COUNTS;
+
+// The report of `kyr info`.
+extern const HostText<1> INFO_VERSION;
+extern const HostText<1> INFO_PLUGIN;
+extern const HostText<1> INFO_TOOL;
+extern const HostText<1> INFO_TOOL_VERSIONS;
+extern const HostText<1> INFO_VENDOR;
+extern const HostText<1> INFO_WEB;
+extern const HostText<1> INFO_METHODOLOGY;
+extern const HostText<1> INFO_MAPPING;
+extern const HostText<0> INFO_DESCRIPTION;
+extern const HostText<0> INFO_OPTIONS;
+extern const HostText<2> INFO_OPTION;
+extern const HostText<0> INFO_OPTION_MANDATORY;
+extern const HostText<1> INFO_OPTION_DEFAULT;
+extern const HostText<1> INFO_OPTION_EXTENSIONS;
+extern const HostText<0> INFO_DATA_STORES;
+extern const HostText<3> INFO_DATA_STORE;
+extern const HostText<0> INFO_MESSAGES;
+extern const HostText<3> INFO_MESSAGE;
+
+// The report of `kyr inspect`.
+extern const HostText<1> INSPECT_FILE;
+extern const HostText<1> INSPECT_TOOL;
+extern const HostText<1> INSPECT_UML_VERSION;
+extern const HostText<1> INSPECT_XMI_VERSION;
+extern const HostText<0> INSPECT_UNKNOWN;
+extern const HostText<1> INSPECT_OBJECTS;
+extern const HostText<2> INSPECT_COUNT;
+extern const HostText<1> INSPECT_MADE;
+extern const HostText<3> INSPECT_REFERENCES;
+extern const HostText<1> INSPECT_WITHOUT_ID;
+extern const HostText<0> INSPECT_MISSING_IDS;
+extern const HostText<1> INSPECT_MISSING_ID;
+extern const HostText<1> INSPECT_SKIPPED_TYPES;
+extern const HostText<1> INSPECT_UNKNOWN_TAGS;
+extern const HostText<3> INSPECT_COUNT_AT;
+extern const HostText<1> INSPECT_MORE;
+
+}  // namespace KYRHostTexts

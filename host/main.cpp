@@ -1,0 +1,27 @@
+// kyr: the command line of the import bridge.
+#include <fcntl.h>
+
+#include <cerrno>
+#include <csignal>
+
+#include "host/CommandLine.h"
+
+namespace {
+
+// With a standard file closed, the next file opened would take its place: a message would end up in
+// the model.
+void fillStandardFiles() {
+  for (int descriptor = 0; descriptor <= 2; ++descriptor) {
+    if (fcntl(descriptor, F_GETFD) >= 0 || errno != EBADF) continue;
+    if (open("/dev/null", O_RDWR) < 0) return;  // takes the lowest free number, which is `descriptor`
+  }
+}
+
+}  // namespace
+
+int main(int argumentCount, char** arguments) {
+  fillStandardFiles();
+  // A reader that goes away must not kill an import; writing to it fails instead.
+  std::signal(SIGPIPE, SIG_IGN);
+  return runCommandLine(argumentCount, arguments);
+}

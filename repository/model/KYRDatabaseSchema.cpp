@@ -1,0 +1,4 @@
+// The end of a schema.
+#include "repository/model/KYRDatabaseSchema.h"
+
+KYRDatabaseSchema::~KYRDatabaseSchema() { dissolve(); }

@@ -1,0 +1,52 @@
+// Forward declarations of the repository's classes, for headers that only name them.
+#pragma once
+
+class KYRArgument;
+class KYRAssociation;
+class KYRAssociationRole;
+class KYRAttribute;
+class KYRCandidateKey;
+class KYRClass;
+class KYRClassDiagram;
+class KYRClassType;
+class KYRClassifier;
+class KYRConcreteType;
+class KYRDataPackage;
+class KYRDatabaseSchema;
+class KYRDependency;
+class KYRDerivedType;
+class KYRDesignPackage;
+class KYRDiagram;
+class KYRElement;
+class KYRFeature;
+class KYRForeignKey;
+class KYRGeneralization;
+class KYRGeneralizationRole;
+class KYRKey;
+class KYRMetadataOrigin;
+class KYRModel;
+class KYRModelElement;
+class KYRModelObject;
+class KYRNamespace;
+class KYRNamespaceElement;
+class KYRNote;
+class KYRObject;
+class KYRObjectCollection;
+class KYROperation;
+class KYRPackage;
+class KYRPresentationElement;
+class KYRProjection;
+class KYRPropertyType;
+class KYRPropertyValue;
+class KYRRealization;
+class KYRRelationship;
+class KYRRelationshipProjection;
+class KYRSdkCollection;
+class KYRStoreModel;
+class KYRStructuralFeature;
+class KYRTraversalOperation;
+class KYRType;
+class KYRTypeValue;
+
+// The source side of an import. The repository only carries pointers to it.
+class UMLElement;

@@ -1,0 +1,4 @@
+// Bridges that import.
+#include "repository/plugin/KYRImportBridgeDllInterface.h"
+
+KYRImportBridgeDllInterface::~KYRImportBridgeDllInterface() = default;

@@ -1,0 +1,4 @@
+// Root of the plug-in classes.
+#include "repository/plugin/KYTIDllInterface.h"
+
+KYTIDllInterface::~KYTIDllInterface() = default;

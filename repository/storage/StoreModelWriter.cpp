@@ -1,0 +1,93 @@
+// The walk over a model that is saved.
+#include "repository/storage/StoreModelWriter.h"
+
+#include "repository/model/KYRElement.h"
+#include "repository/model/KYRPropertyType.h"
+#include "repository/model/KYRPropertyValue.h"
+#include "repository/storage/StoredNumbers.h"
+#include "repository/storage/StoredWalk.h"
+
+StoreModelWriter::~StoreModelWriter() = default;
+
+namespace {
+
+class Saving {
+ public:
+  Saving(const KYRStoreModel& model, StoreModelWriter& writer) : numbers_(model), writer_(writer) {}
+
+  void enter(const KYRObject& object, const StoredClass& stored) {
+    writer_.beginObject(numbers_.get(&object), stored.name);
+    for (const StoredField* field : stored.values) write(object, *field);
+    if (object.isInstanceOf(KYRElementType::element)) {
+      writePropertyValues(static_cast<const KYRElement&>(object));
+    }
+  }
+  void leave() { writer_.endObject(); }
+  void beginList(const StoredField& field) { writer_.beginList(field.name); }
+  void endList() { writer_.endList(); }
+
+ private:
+  void write(const KYRObject& object, const StoredField& field) {
+    switch (field.kind) {
+      case StoredKind::text: {
+        const std::string_view value = field.getText(object);
+        if (!value.empty()) writer_.text(field.name, value);
+        break;
+      }
+      case StoredKind::number: {
+        const std::int64_t value = field.getNumber(object);
+        if (value != 0) writer_.number(field.name, value);
+        break;
+      }
+      case StoredKind::flag:
+        if (field.getNumber(object) != 0) writer_.flag(field.name);
+        break;
+      case StoredKind::reference: {
+        const unsigned int id = numbers_.get(field.getReference(object));
+        if (id != 0) writer_.reference(field.name, id);
+        break;
+      }
+      case StoredKind::references:
+        writeReferences(field.name, field.getList(object));
+        break;
+      case StoredKind::children:  // written by the walk
+        break;
+    }
+  }
+
+  void writeReferences(std::string_view name, const KYRSdkCollection* list) {
+    bool isBegun = false;
+    for (unsigned int i = 0; list != nullptr && i < list->getCount(); ++i) {
+      const unsigned int id = numbers_.get((*list)[i]);
+      if (id == 0) continue;
+      if (!isBegun) writer_.beginReferences(name);
+      isBegun = true;
+      writer_.reference(id);
+    }
+    if (isBegun) writer_.endReferences();
+  }
+
+  void writePropertyValues(const KYRElement& element) {
+    bool isBegun = false;
+    for (const auto* value = element.getFirstPropertyValue(); value != nullptr; value = value->getNext()) {
+      const unsigned int id = numbers_.get(value->getPropertyType());
+      if (id == 0) continue;  // without a definition a value has no meaning
+      if (!isBegun) writer_.beginPropertyValues();
+      isBegun = true;
+      writer_.propertyValue(id, value->value.view());
+    }
+    if (isBegun) writer_.endPropertyValues();
+  }
+
+  StoredNumbers numbers_;
+  StoreModelWriter& writer_;
+};
+
+}  // namespace
+
+void writeStoreModel(const KYRStoreModel& model, StoreModelWriter& writer) {
+  Saving saving(model, writer);
+  writer.beginDocument(model);
+  walkStored(model, saving);
+  writer.endDocument();
+}

@@ -1,0 +1,21 @@
+// StoredNumbers: the id of each object of a model that is being saved: its place in the document.
+#pragma once
+
+#include <vector>
+
+#include "repository/model/KYRStoreModel.h"
+
+class StoredNumbers {
+ public:
+  /// Numbers all that the model holds, from 1. The model must not change while the numbers are used.
+  explicit StoredNumbers(const KYRStoreModel& model);
+  /// 0 for null and for an object that the model does not hold.
+  unsigned int get(const KYRObject* object) const noexcept;
+  unsigned int getCount() const noexcept { return static_cast<unsigned int>(objects_.size()); }
+
+ private:
+  struct Numbering;
+  // An object keeps its number itself; the list tells a number of this model from what else may stand
+  // there.
+  std::vector<const KYRObject*> objects_;
+};

@@ -1,0 +1,72 @@
+#include "host/CommandRequest.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using Kind = CommandRequest::Kind;
+
+CommandRequest read(std::vector<const char*> words) {
+  words.insert(words.begin(), "anything");
+  return readCommandLine(static_cast<int>(words.size()), words.data());
+}
+
+TEST(CommandRequest, AnImportWithNothingElseHasDefaults) {
+  const CommandRequest request = read({"import", "shop.xmi"});
+  EXPECT_EQ(request.kind, Kind::import);
+  EXPECT_EQ(request.import.file, "shop.xmi");
+  EXPECT_EQ(request.import.output, "");
+  EXPECT_EQ(request.import.plugin, "");
+  EXPECT_EQ(request.encoding, "");
+  EXPECT_FALSE(request.import.isQuiet);
+  EXPECT_EQ(request.import.format, HostLog::Format::text);
+}
+
+TEST(CommandRequest, EveryOptionOfAnImportArrives) {
+  const CommandRequest request =
+      read({"import", "-o", "out", "--root-package", "Top", "--modification-time", "2026-01-01T00:00:00Z",
+            "--encoding", "windows-1252", "--plugin", "p.so", "--quiet", "--log-format", "json", "--log-file",
+            "a.log", "shop.xmi"});
+  EXPECT_EQ(request.kind, Kind::import);
+  EXPECT_EQ(request.import.file, "shop.xmi");
+  EXPECT_EQ(request.import.output, "out");
+  EXPECT_EQ(request.import.rootPackage, "Top");
+  EXPECT_EQ(request.import.modificationTime, "2026-01-01T00:00:00Z");
+  EXPECT_EQ(request.encoding, "windows-1252");
+  EXPECT_EQ(request.import.plugin, "p.so");
+  EXPECT_TRUE(request.import.isQuiet);
+  EXPECT_EQ(request.import.format, HostLog::Format::json);
+  EXPECT_EQ(request.import.logFile, "a.log");
+}
+
+TEST(CommandRequest, AFileMayBeNamedLikeACommand) {
+  EXPECT_EQ(read({"import", "info"}).import.file, "info");
+  EXPECT_EQ(read({"inspect", "inspect"}).inspect.file, "inspect");
+}
+
+TEST(CommandRequest, InfoAndInspectHaveTheirFlags) {
+  const CommandRequest info = read({"info", "--json", "--plugin", "p.so"});
+  EXPECT_EQ(info.kind, Kind::info);
+  EXPECT_TRUE(info.info.isJson);
+  EXPECT_EQ(info.info.plugin, "p.so");
+  const CommandRequest inspect = read({"inspect", "shop.xmi", "--objects"});
+  EXPECT_EQ(inspect.kind, Kind::inspect);
+  EXPECT_TRUE(inspect.inspect.listsObjects);
+  EXPECT_FALSE(inspect.inspect.isJson);
+}
+
+TEST(CommandRequest, HelpAndVersionAreAnswersAlsoWithoutTheRest) {
+  EXPECT_EQ(read({"--help"}).kind, Kind::answer);
+  EXPECT_EQ(read({"import", "-h"}).kind, Kind::answer);
+  EXPECT_EQ(read({"--version"}).kind, Kind::answer);
+}
+
+TEST(CommandRequest, WrongUsageSaysWhyAndHowFarTheWordsWereUnderstood) {
+  const CommandRequest request = read({"import", "a", "b"});
+  EXPECT_EQ(request.kind, Kind::wrongUsage);
+  EXPECT_EQ(request.command, "kyr import");
+  EXPECT_NE(request.text.find('b'), std::string::npos);
+  EXPECT_EQ(read({"other"}).command, "kyr");
+}
+
+}  // namespace

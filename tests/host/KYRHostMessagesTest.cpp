@@ -1,0 +1,63 @@
+#include "host/KYRHostMessages.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <set>
+#include <string>
+
+#include "foundation/KYRVector.h"
+#include "host/KYRHostTexts.h"
+#include "tests/support/RecordingLog.h"
+
+namespace {
+
+std::map<std::string, const KYRTextLiteral*> allLiterals() {
+  KYRVector literals;
+  KYRHostMessages::getAllLiterals(literals);
+  std::map<std::string, const KYRTextLiteral*> found;
+  for (unsigned int i = 0; i < literals.getCount(); ++i) {
+    const auto* const literal = static_cast<const KYRTextLiteral*>(literals.getAt(i));
+    found[literal->getIdentifier().getCharacters()] = literal;
+  }
+  return found;
+}
+
+TEST(KYRHostMessages, CodesStayWhatUsersKnow) {
+  const std::set<std::string> expected = {
+      "KYRHOST_F0001", "KYRHOST_F0002", "KYRHOST_F0003", "KYRHOST_F0004", "KYRHOST_F0005",
+      "KYRHOST_F0006", "KYRHOST_F0007", "KYRHOST_F0008", "KYRHOST_F0009", "KYRHOST_F0010",
+      "KYRHOST_F0011", "KYRHOST_W0012", "KYRHOST_F0013", "KYRHOST_F0014", "KYRHOST_F0015",
+  };
+  std::set<std::string> codes;
+  for (const auto& [identifier, literal] : allLiterals()) {
+    if (dynamic_cast<const KYRMessageLiteral*>(literal) != nullptr) codes.insert(identifier);
+  }
+  EXPECT_EQ(codes, expected);
+}
+
+TEST(KYRHostMessages, HoldsLabelsAndHelpToo) {
+  EXPECT_EQ(KYRHostMessages::findTextLiteral("IMPORT_HELP"), &KYRHostTexts::IMPORT_HELP);
+  EXPECT_EQ(KYRHostMessages::findTextLiteral("INSPECT_TOOL"), &KYRHostTexts::INSPECT_TOOL);
+  EXPECT_EQ(KYRHostMessages::findTextLiteral("NO_SUCH_TEXT"), nullptr);
+}
+
+TEST(KYRHostMessages, NoTextIsEmpty) {
+  for (const auto& [identifier, literal] : allLiterals()) {
+    EXPECT_FALSE(literal->getText().isEmpty()) << identifier;
+  }
+}
+
+TEST(KYRHostMessages, AnExceptionHasTheCodeInBracketsAndALogEventApart) {
+  RecordingLog log;
+  KYRHostMessages::PLUGIN_REFUSED.log(log);
+  EXPECT_EQ(log.lines[0], "KYRHOST_F0010 The plug-in says that the import failed, and does not say why");
+  try {
+    KYRHostMessages::PLUGIN_NOT_A_FILE.throwException(KYRString("a{0}.so"));
+    FAIL() << "nothing was raised";
+  } catch (const KYRException& exception) {
+    EXPECT_STREQ(exception.what(), "[KYRHOST_F0006] The plug-in 'a{0}.so' is no file");
+  }
+}
+
+}  // namespace
