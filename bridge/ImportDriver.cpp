@@ -66,9 +66,8 @@ void KYROmgUml2XmiImportBridge::readOptions(KYROptionList& options) {
 }
 
 void KYROmgUml2XmiImportBridge::stampOrigin(const KYRString& originId) {
-  std::unique_ptr<KYRMetadataOrigin> origin(
-      generateMetadataOrigin(KBLST::BRIDGE_SPEC_OMGUML2XMI_IMPORT, originId,
-                             getKYROmgUml2XmiImportInterface()->getBuildVersion()));
+  std::unique_ptr<KYRMetadataOrigin> origin(generateMetadataOrigin(
+      KBLST::BRIDGE_SPEC_OMGUML2XMI_IMPORT, originId, getKYROmgUml2XmiImportInterface()->getBuildVersion()));
   origin->formatName = formatName;
   origin->formatVersion = assumedFormatVersion;
   origin->filePath = file.getPath();
@@ -76,7 +75,8 @@ void KYROmgUml2XmiImportBridge::stampOrigin(const KYRString& originId) {
   origin->toolName.empty();
   origin->toolVersion.empty();
   origin->originCode = omgUml2XmiOrigin;
-  storeModel->addMetadataOrigin(origin.release());
+  storeModel->addMetadataOrigin(origin.get());
+  origin.release();  // ownership: the store model
 }
 
 // Keys, schemas and diagrams of the two tools stand outside the UML body. A tree reading that fails
@@ -95,7 +95,13 @@ void KYROmgUml2XmiImportBridge::loadDom() {
 }
 
 void KYROmgUml2XmiImportBridge::finishModel() {
+  markOptionalAttributes();
   factorizeTypes(storeModel, 0, 0);
+  for (KYRClassDiagram* diagram : diagrams) {
+    verifyDiagram(diagram);
+    processPresentationElements(diagram, false);
+  }
+  diagrams.clear();
   if (storeModel->getName().isEmpty()) storeModel->setName(file.getFileName());
   storeModel->designLevel = isPhysicalTarget() ? KYRDesignLevelType::physical : KYRDesignLevelType::logical;
   storeModel->storeType = isPhysicalTarget() ? KYRStoreType::dataStore : KYRStoreType::design;

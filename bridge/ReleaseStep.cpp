@@ -35,6 +35,10 @@ void KYROmgUml2XmiImportBridge::release() noexcept {
   pendingDependencies.clear();
   destroyUnplaced();
   recordsByElement_.clear();
+  schemasByName_.clear();
+  baseTypes_.clear();
+  enumerationPasses_.clear();
+  rolesByFarName_.clear();
   while (!associationClasses.empty()) associationClasses.pop_back();
   domModel = nullptr;
   domRoot.reset();

@@ -13,7 +13,6 @@
 
 namespace {
 
-constexpr const char* associationSuffix = "_ASSOCIATION";  // diagrams look associations up by it
 constexpr unsigned int fewestEnds = 2;
 
 // The class at an end: only classes and interfaces count, and only those that were converted.

@@ -60,8 +60,8 @@ void KYROmgUml2XmiImportBridge::completeClass(KYRClass* target, UMLClassifier* e
 }
 
 // The end of an association never becomes an attribute, whatever it is named.
-void KYROmgUml2XmiImportBridge::convertAttributes(
-    KYRClass* target, const Borrowed<UMLProperty, KYROrderedVector>& properties) {
+void KYROmgUml2XmiImportBridge::convertAttributes(KYRClass* target,
+                                                  const Borrowed<UMLProperty, KYROrderedVector>& properties) {
   countSteps(properties.count());
   for (UMLProperty* property : properties) {
     if (property == nullptr || property->getKind() != UMLProperty::kind) continue;

@@ -32,15 +32,21 @@ void KYROmgUml2XmiImportBridge::convertModel() {
   applyElementMetadata(storeModel, umlModel);
   enter(storeModel, umlModel);
   selectRootPackage();
+  chooseDataStore();
+  loadOwners();
   KBI_UML2XMI::UML2_S_PROCESSING_ELEMENTS.log(*log);
   convertTopLevel();
   placeAssociationClasses();
+  placeClassesInSchemas();
   addDataPackages();
   KBI_UML2XMI::UML2_S_PROCESSING_RELATIONSHIPS.log(*log);
   convertRelations();
   KBI_UML2XMI::UML2_S_CREATING_KEYS.log(*log);
+  convertKeys();
   KBI_UML2XMI::UML2_S_PROCESSING_TYPES.log(*log);
+  for (KYRModelObject* feature : typedFeatures) assignFeatureType(feature);
   KBI_UML2XMI::UML2_S_CREATING_DIAGRAMS.log(*log);
+  if (umlModel->exporter.equals("MagicDraw UML", false)) importDiagrams();
 }
 
 // A class, an association or a generalization needs a package to stand in; the list is short on purpose.

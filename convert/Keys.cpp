@@ -1,6 +1,8 @@
 // Keys. UML has none; MagicDraw marks properties with stereotypes of an entity-relationship profile,
 // which stand beside the model and point at the property. Marks that point at nothing, or at anything
 // but an attribute, are passed over, and so are foreign keys that find no primary key to refer to.
+#include <unordered_set>
+
 #include "bridge/state/FoldedText.h"
 #include "bridge/state/KYROmgUml2XmiImportBridge.h"
 #include "repository/bridgelib/KYRBridgeLib.h"

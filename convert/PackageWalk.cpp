@@ -28,6 +28,10 @@ std::vector<UMLNamedElement*> snapshot(const List& list) {
   return members;
 }
 
+bool isTypeOfValues(const UMLNamedElement& member) {
+  return member.getKind() == UMLEnumeration::kind || member.getKind() == UMLPrimitiveType::kind;
+}
+
 // The next member from `next` on that is a package, or null at the end.
 UMLPackage* nextPackage(OpenPackage& open) {
   while (open.next < open.members.size()) {
@@ -49,7 +53,9 @@ void KYROmgUml2XmiImportBridge::convertTopLevel() {
   countSteps(static_cast<unsigned int>(members.size()));
   for (UMLNamedElement* member : members) {
     if (member == nullptr) continue;
-    if (member->getKind() != UMLPackage::kind) {
+    if (isTypeOfValues(*member)) {
+      convertType(umlCast<UMLType>(member));  // at the top even without a name
+    } else if (member->getKind() != UMLPackage::kind) {
       convertMember(member, rootOwner);
     } else if (rootOwner != nullptr) {
       place(convertPackage(umlCast<UMLPackage>(member)), rootOwner);
@@ -113,6 +119,10 @@ void KYROmgUml2XmiImportBridge::convertMember(UMLNamedElement* member, KYRDesign
       break;
     case UMLAssociation::kind:
       pendingAssociations.add(umlCast<UMLAssociation>(member), false);
+      break;
+    case UMLEnumeration::kind:
+    case UMLPrimitiveType::kind:
+      if (hasName) convertType(umlCast<UMLType>(member));
       break;
     case UMLDependency::kind:
       pendingDependencies.add(umlCast<UMLDependency>(member), false);

@@ -65,14 +65,16 @@ KYRType* KYROmgUml2XmiImportBridge::convertType(UMLType* element) {
   const int kind = element->getKind();
   if (kind == UMLEnumeration::kind) return convertEnumeration(umlCast<UMLEnumeration>(element));
   if (kind == UMLClass::kind || kind == UMLInterface::kind) {
-    if (auto* const typeClass = dynamic_cast<KYRClass*>(element->repositoryObject)) return getClassType(typeClass);
+    if (auto* const typeClass = dynamic_cast<KYRClass*>(element->repositoryObject))
+      return getClassType(typeClass);
   }
   // A class that was dropped lives on here, as a type of its name.
   return getDerivedType(element->name, element->id, element->length, element->scale, true);
 }
 
-KYRDerivedType* KYROmgUml2XmiImportBridge::getDerivedType(const KYRString& typeName, const KYRString& sourceId,
-                                                          int length, int scale, bool withBase) {
+KYRDerivedType* KYROmgUml2XmiImportBridge::getDerivedType(const KYRString& typeName,
+                                                          const KYRString& sourceId, int length, int scale,
+                                                          bool withBase) {
   const KYRString logicalName = buildLogicalName(typeName, length, scale);
   if (auto* const known = dynamic_cast<KYRDerivedType*>(
           findDerivedType(storeModel, logicalName, length, scale, KYRElementType::derivedType))) {
@@ -97,7 +99,7 @@ KYRDerivedType* KYROmgUml2XmiImportBridge::getDerivedType(const KYRString& typeN
 
 KYRConcreteType* KYROmgUml2XmiImportBridge::findDerivedType(KYRStoreModel* model, const KYRString& name,
                                                             int length, int scale, int elementType) {
-  return typeIndex_.find(*model, name, length, scale, elementType);
+  return typeIndex.find(*model, name, length, scale, elementType);
 }
 
 void KYROmgUml2XmiImportBridge::ensureBaseType(KYRDerivedType* type) {

@@ -71,7 +71,8 @@ void KYROmgUml2XmiImportBridge::placeTablesWithOwners() {
   storeModel->depthTraversal(classes);
   for (KYRObject* object : classes) {
     const Owner* const owner = owners.find(object->sourceId);
-    addToSchema(dynamic_cast<KYRClass*>(object), fetchSchema(owner == nullptr ? defaultSchema() : owner->name));
+    addToSchema(dynamic_cast<KYRClass*>(object),
+                fetchSchema(owner == nullptr ? defaultSchema() : owner->name));
   }
 }
 

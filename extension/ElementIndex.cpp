@@ -9,6 +9,8 @@
 
 namespace {
 
+constexpr std::size_t firstSlots = 1024;
+
 const KYRString& blank() {
   static const KYRString text(" ");
   return text;
@@ -30,8 +32,12 @@ class ObjectChain {
 
 }  // namespace
 
-ElementIndex::ElementIndex(const XmlDocument& document)
-    : document_(document), idName_(document.findName("xmi:id")), isModelTag_(document.getNameCount()) {
+ElementIndex::ElementIndex(const XmlDocument& document, std::size_t objectCount)
+    : document_(document),
+      idName_(document.findName("xmi:id")),
+      isModelTag_(document.getNameCount()),
+      slots_(firstSlots, none),
+      objects_(objectCount) {
   for (XmlDocument::Name name = 0; name < document.getNameCount(); ++name) {
     isModelTag_[name] = equalsIgnoringCase(document.getNameText(name).view(), "uml:Model") ? 1 : 0;
   }
@@ -119,68 +125,90 @@ bool ElementIndex::sameText(XmlDocument::Node node, Chain other) {
   }
 }
 
-ElementIndex::Number ElementIndex::add(XmlDocument::Node node, Number parent, const CompositeKey& key) {
-  const auto range = recordsByHash_.equal_range(key.hash());
-  for (auto at = range.first; at != range.second; ++at) {
-    const Record& record = records_[at->second];
-    if (!(record.key == key)) continue;
-    ++comparisons_;
-    if (parent != none && record.parent == parent && pieceOf(record.node) == pieceOf(node)) return at->second;
-    const auto piece = [this](XmlDocument::Node element) { return pieceOf(element).view(); };
-    const auto ends = [this](XmlDocument::Node element) { return endsChain(element); };
-    if (sameText(record.node, ElementChain<decltype(piece), decltype(ends)>(document_, node, piece, ends))) {
-      return at->second;
+// The slot of the record with that key, or the free one where it belongs.
+template <class IsSame>
+ElementIndex::Number* ElementIndex::findSlot(const CompositeKey& key, IsSame isSame) {
+  std::size_t slot = key.hash() & (slots_.size() - 1);
+  while (slots_[slot] != none) {
+    const Record& record = records_[slots_[slot]];
+    if (record.key == key) {
+      ++comparisons_;
+      if (isSame(record)) break;
     }
+    slot = (slot + 1) & (slots_.size() - 1);
   }
-  const auto number = static_cast<Number>(records_.size());
-  records_.push_back({node, parent, key});
-  recordsByHash_.emplace(key.hash(), number);
-  return number;
+  return &slots_[slot];
+}
+
+void ElementIndex::makeRoom() {
+  if (records_.size() * 2 < slots_.size()) return;
+  slots_.assign(slots_.size() * 2, none);
+  for (std::size_t number = 0; number < records_.size(); ++number) {
+    std::size_t slot = records_[number].key.hash() & (slots_.size() - 1);
+    while (slots_[slot] != none) slot = (slot + 1) & (slots_.size() - 1);
+    slots_[slot] = static_cast<Number>(number);
+  }
+}
+
+ElementIndex::Number ElementIndex::add(XmlDocument::Node node, Number parent, const CompositeKey& key) {
+  makeRoom();
+  const auto piece = [this](XmlDocument::Node element) { return pieceOf(element).view(); };
+  const auto ends = [this](XmlDocument::Node element) { return endsChain(element); };
+  Number* const slot = findSlot(key, [&](const Record& record) {
+    if (parent != none && record.parent == parent && pieceOf(record.node) == pieceOf(node)) return true;
+    return sameText(record.node, ElementChain<decltype(piece), decltype(ends)>(document_, node, piece, ends));
+  });
+  if (*slot == none) {
+    *slot = static_cast<Number>(records_.size());
+    records_.push_back({node, parent, key});
+  }
+  return *slot;
 }
 
 ElementIndex::Number ElementIndex::findRecord(const CompositeKey& key, const UMLElement& object,
                                               Number ownerRecord) {
-  const auto range = recordsByHash_.equal_range(key.hash());
-  for (auto at = range.first; at != range.second; ++at) {
-    const Record& record = records_[at->second];
-    if (!(record.key == key)) continue;
-    ++comparisons_;
+  return *findSlot(key, [&](const Record& record) {
     const bool sameChain = ownerRecord != none && record.parent == ownerRecord;
-    if (sameChain && pieceOf(record.node).view() == ObjectChain(&object).piece()) return at->second;
-    if (sameText(record.node, ObjectChain(&object))) return at->second;
-  }
-  return none;
+    if (sameChain && pieceOf(record.node).view() == ObjectChain(&object).piece()) return true;
+    return sameText(record.node, ObjectChain(&object));
+  });
 }
 
-// Owners are known before what they own. A chain that comes back to itself has no end, hence no key.
+ElementIndex::Known& ElementIndex::knownOf(const UMLElement& object) noexcept {
+  return objects_[object.readingNumber];
+}
+
+// Owners are known before what they own. A chain that comes back to itself has no end, hence no key:
+// its objects stay open.
 const ElementIndex::Known& ElementIndex::know(const UMLElement& object) {
-  std::vector<const UMLElement*> chain;
+  std::vector<const UMLElement*>& chain = chain_;
+  chain.clear();
   const UMLElement* at = &object;
-  while (at != nullptr && objects_.find(at) == objects_.end()) {
-    objects_[at].hasKey = false;  // until the chain's end is seen
+  while (at != nullptr && knownOf(*at).state == Known::State::unseen) {
+    knownOf(*at).state = Known::State::open;
     chain.push_back(at);
     at = at->owner;
   }
-  const bool isOpen = at == nullptr || objects_[at].hasKey;
-  while (isOpen && !chain.empty()) {
+  if (at != nullptr && knownOf(*at).state == Known::State::open) return knownOf(object);
+  while (!chain.empty()) {
     const UMLElement& element = *chain.back();
     chain.pop_back();
-    Known& known = objects_[&element];
+    Known& known = knownOf(element);
     known.key = CompositeKey(ObjectChain(&element).piece());
     Number ownerRecord = top;
     if (element.owner != nullptr) {
-      const Known& owner = objects_[element.owner];
+      const Known& owner = knownOf(*element.owner);
       known.key = known.key.followedBy(owner.key);
       ownerRecord = owner.record;
     }
     known.record = findRecord(known.key, element, ownerRecord);
-    known.hasKey = true;
+    known.state = Known::State::complete;
   }
-  return objects_[&object];
+  return knownOf(object);
 }
 
 DocumentElement ElementIndex::find(const UMLElement& object) {
   const Known& known = know(object);
-  if (!known.hasKey || known.record == none) return {};
+  if (known.state != Known::State::complete || known.record == none) return {};
   return {document_, records_[known.record].node};
 }

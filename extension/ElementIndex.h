@@ -6,7 +6,6 @@
 #pragma once
 
 #include <cstdint>
-#include <unordered_map>
 #include <vector>
 
 #include "extension/CompositeKey.h"
@@ -15,8 +14,9 @@
 
 class ElementIndex {
  public:
-  /// Indexes all elements with a non-empty xmi:id; the first of a key stays.
-  explicit ElementIndex(const XmlDocument& document);
+  /// Indexes all elements with a non-empty xmi:id; the first of a key stays. `objectCount` is the number
+  /// of objects that the reader made.
+  ElementIndex(const XmlDocument& document, std::size_t objectCount);
   /// The element for an object; none when no key is equal, or when the object's owners run in a
   /// circle, since it has no key then. Owners must not change between calls.
   DocumentElement find(const UMLElement& object);
@@ -37,14 +37,18 @@ class ElementIndex {
   struct Known {
     CompositeKey key;
     Number record = none;
-    bool hasKey = true;
+    enum class State : std::uint8_t { unseen, open, complete } state = State::unseen;
   };
 
   const KYRString& idOf(XmlDocument::Node node) const noexcept;
   bool endsChain(XmlDocument::Node node) const noexcept;
   const KYRString& pieceOf(XmlDocument::Node node) const;
   Number add(XmlDocument::Node node, Number parent, const CompositeKey& key);
+  template <class IsSame>
+  Number* findSlot(const CompositeKey& key, IsSame isSame);
+  void makeRoom();
   Number findRecord(const CompositeKey& key, const UMLElement& object, Number ownerRecord);
+  Known& knownOf(const UMLElement& object) noexcept;
   const Known& know(const UMLElement& object);
   template <class Chain>
   bool sameText(XmlDocument::Node node, Chain other);
@@ -53,7 +57,8 @@ class ElementIndex {
   XmlDocument::Name idName_;
   std::vector<char> isModelTag_;  // by name: the tag ends a chain
   std::vector<Record> records_;
-  std::unordered_multimap<std::uint64_t, Number> recordsByHash_;
-  std::unordered_map<const UMLElement*, Known> objects_;
+  std::vector<Number> slots_;   // open addressing over the records; none marks a free slot
+  std::vector<Known> objects_;  // by reading number
+  std::vector<const UMLElement*> chain_;  // room for `know`
   std::uint64_t comparisons_ = 0;
 };

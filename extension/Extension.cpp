@@ -20,6 +20,25 @@ constexpr const char* extenderPrefix = "MagicDraw UML ";
 // Packed projects cannot be read as a file.
 constexpr const char* packedFile = ".mdzip";
 
+bool isCustomProperties(const KYRString& source) { return source.equals("custom properties", false); }
+
+// Whether any element of the file holds something that an object could get. Most plain files hold
+// nothing, and need no index then.
+bool hasToolData(const XmlDocument& document) {
+  const XmlDocument::Name href = document.findName("href");
+  const XmlDocument::Name source = document.findName("source");
+  const XmlDocument::Name type = document.findName("type");
+  const XmlDocument::Name extension = document.findName("xmi:Extension");
+  for (XmlDocument::Node node = 0; node < document.getNodeCount(); ++node) {
+    if (!document.isElement(node)) continue;
+    const XmlDocument::Name name = document.getName(node);
+    const DocumentElement element(document, node);
+    if (name == extension || (name == type && !element.attribute(href).isEmpty())) return true;
+    if (source != XmlDocument::textName && isCustomProperties(element.attribute(source))) return true;
+  }
+  return false;
+}
+
 KYRDataStoreVersion umlDataStore() {
   return KYRDataStoreVersion(KYRDataTypeConstants::DATASTORE_OMG_UML_OMG_UML, 1, 0, 0);
 }
@@ -47,7 +66,8 @@ void Extension::readDocument(UMLObjectTable& objects, const KYRFile& file) {
   reading.parse(dom, file);
   if (!reading) return;
   KBI_UML2XMI::UML2_S_PROCESSING_EXTENSIONS.log(*log);
-  ElementIndex elements(reading.document());
+  if (!hasToolData(reading.document())) return;
+  ElementIndex elements(reading.document(), objects.getCount());
   ModuleFile module(log, dom, file);
   for (unsigned int i = 0; i < objects.getSlotCount(); ++i) {
     UMLElement& object = *objects.at(i);
@@ -141,7 +161,7 @@ UMLValueSpecification* Extension::readBound(DocumentElement bound) {
 // All are kept, two of one name as well.
 void Extension::readCustomProperties(UMLElement& object, DocumentElement element) {
   for (DocumentElement child = element.firstChild(); child; child = child.nextSibling()) {
-    if (!child.attribute("source").equals("custom properties", false)) continue;
+    if (!isCustomProperties(child.attribute("source"))) continue;
     for (DocumentElement details = child.firstChild(); details; details = details.nextSibling()) {
       if (!details.tag().equals("details", false)) continue;
       auto value = std::make_unique<UMLTaggedValue>(details.attribute("key"), details.attribute("value"));

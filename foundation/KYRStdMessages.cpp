@@ -1,6 +1,9 @@
-// The texts of the library's own messages. The table below is the only list: each row enters itself
-// into the catalogue when it is made.
+// The texts of the messages about files and XML. The table below is the only list: each row enters
+// itself into the catalogue when it is made.
 #include "foundation/KYRStdMessages.h"
+
+#include <algorithm>
+#include <limits>
 
 #include "foundation/KYRStringArray.h"
 
@@ -61,7 +64,7 @@ KYRStdMessages::Base::Base(int number, const char* levelName, const char* text)
     : KYRMessageLiteral(number, KYRString(text), KYRString(levelName)) {
   code = buildCode(KYRString(catalogueName), KYRString(levelName), number);
   identifier_ = code;
-  rows().push_back(this);
+  rows().push_back({number, this});
 }
 
 KYRStdMessages::Base::~Base() = default;
@@ -87,7 +90,7 @@ void KYRStdMessages::Base::raise(const KYRString& text) const {
 
 KYRStdMessages::PositionText::PositionText()
     : KYRParameterizedTextLiteral(KYRString("KYRSTD_POSITION"), KYRString("line {0}, column {1}")) {
-  rows().push_back(this);
+  rows().push_back({std::numeric_limits<int>::max(), this});  // behind the messages
 }
 
 KYRStdMessages::PositionText::~PositionText() = default;
@@ -101,12 +104,16 @@ KYRString KYRStdMessages::PositionText::toString(const KYRString& line, const KY
 }
 
 KYRStdMessages::KYRStdMessages() : KYRTextLiteralsCollection(KYRString("KYRStd"), KYRString(catalogueName)) {
-  for (KYRTextLiteral* row : rows()) add(row);
+  // The files of the library enter their rows in an order that nobody promises.
+  std::vector<Row> sorted = rows();
+  std::sort(sorted.begin(), sorted.end(),
+            [](const Row& first, const Row& second) { return first.number < second.number; });
+  for (const Row& row : sorted) add(row.literal);
   init();
 }
 
-std::vector<KYRTextLiteral*>& KYRStdMessages::rows() {
-  static std::vector<KYRTextLiteral*> list;
+std::vector<KYRStdMessages::Row>& KYRStdMessages::rows() {
+  static std::vector<Row> list;
   return list;
 }
 

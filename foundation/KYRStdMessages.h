@@ -2,7 +2,8 @@
 // not well-formed, encodings, limits. Their codes start with "KYRSTD_".
 //
 // Each message is a static object that knows how many arguments it takes; a call with another number
-// does not compile. A message is one row of KYRStdMessages.cpp and one declaration here; numbers only
+// does not compile. A message is one row of KYRStdMessages.cpp and one declaration here, or a row of
+// another part of the library that keeps its own list; all rows are in this catalogue. Numbers only
 // grow, since users see the codes.
 #pragma once
 
@@ -99,5 +100,9 @@ class KYR_EXPORT KYRStdMessages : public KYRTextLiteralsCollection {
 
  private:
   KYRStdMessages();
-  static std::vector<KYRTextLiteral*>& rows();
+  struct Row {
+    int number;
+    KYRTextLiteral* literal;
+  };
+  static std::vector<Row>& rows();
 };

@@ -45,6 +45,9 @@ int perform(const CommandRequest& request, Tools& tools) {
     case Kind::inspect:
       InspectCommand(request.inspect, tools.output, tools.log).run();
       return ExitCode::done;
+    case Kind::diagram:
+      DiagramCommand(request.diagram, tools.output).run();
+      return ExitCode::done;
     case Kind::answer:
       tools.output.write(request.text);
       return ExitCode::done;

@@ -35,6 +35,7 @@ class Definition {
   void defineLogFormat(CLI::App& command);
   void defineInfo();
   void defineInspect();
+  void defineDiagram();
   static void addPlugin(CLI::App& command, std::string& path);
   void addEncoding(CLI::App& command);
 
@@ -53,6 +54,7 @@ Definition::Definition(CommandRequest& request)
   defineImport();
   defineInfo();
   defineInspect();
+  defineDiagram();
 }
 
 CLI::App& Definition::addCommand(const char* name, const HostText<0>& help, const HostText<0>& examples) {
@@ -107,6 +109,15 @@ void Definition::defineInspect() {
   addEncoding(command);
 }
 
+void Definition::defineDiagram() {
+  using namespace KYRHostTexts;
+  CLI::App& command = addCommand("diagram", DIAGRAM_HELP, DIAGRAM_HELP_EXAMPLES);
+  DiagramCommand::Settings& settings = request_.diagram;
+  command.add_option("FILE", settings.file, textOf(DIAGRAM_HELP_FILE))->required()->type_name("");
+  command.add_option("--name", settings.name, textOf(DIAGRAM_HELP_NAME))->type_name("NAME");
+  command.add_option("-o,--output", settings.folder, textOf(DIAGRAM_HELP_OUTPUT))->type_name("FOLDER");
+}
+
 void Definition::addPlugin(CLI::App& command, std::string& path) {
   command.add_option("--plugin", path, textOf(KYRHostTexts::HELP_PLUGIN))->type_name("PATH");
 }
@@ -130,9 +141,10 @@ void Definition::read(int argumentCount, const char* const* arguments) {
     return;
   }
   using Kind = CommandRequest::Kind;
-  request_.kind = app_.got_subcommand("import") ? Kind::import
-                  : app_.got_subcommand("info") ? Kind::info
-                                                : Kind::inspect;
+  request_.kind = app_.got_subcommand("import")    ? Kind::import
+                  : app_.got_subcommand("info")    ? Kind::info
+                  : app_.got_subcommand("diagram") ? Kind::diagram
+                                                   : Kind::inspect;
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "host/DiagramCommand.h"
 #include "host/ImportCommand.h"
 #include "host/InfoCommand.h"
 #include "host/InspectCommand.h"
@@ -12,6 +13,7 @@ struct CommandRequest {
     import,
     info,
     inspect,
+    diagram,
     answer,      // help or version: `text` is to be printed
     wrongUsage,  // `text` says why, and `command` which words were understood
   };
@@ -20,6 +22,7 @@ struct CommandRequest {
   ImportCommand::Settings import;
   InfoCommand::Settings info;
   InspectCommand::Settings inspect;
+  DiagramCommand::Settings diagram;
   std::string encoding;  // empty: as each file says
   std::string text;
   std::string command;  // "kyr", "kyr import"

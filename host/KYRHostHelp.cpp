@@ -95,4 +95,20 @@ const HostText<0> INSPECT_HELP_OBJECTS(
     "Instead of the report, print each UML object as one line of JSON, in order of reading. References are "
     "indexes of other lines, counted from 0");
 
+const HostText<0> DIAGRAM_HELP(
+    "DIAGRAM_HELP",
+    "Draw the class diagrams of a saved model as SVG pictures.\n"
+    "\n"
+    "FILE is what 'kyr import' has written. Each diagram becomes a file of its name; what\n"
+    "a file name had better not hold becomes '_', and a number tells apart diagrams of one\n"
+    "name. A picture that is there already is replaced.");
+const HostText<0> DIAGRAM_HELP_EXAMPLES("DIAGRAM_HELP_EXAMPLES",
+                                        "Examples:\n"
+                                        "  kyr diagram shop.json -o pictures/\n"
+                                        "  kyr diagram shop.json --name 'Orders and customers'");
+const HostText<0> DIAGRAM_HELP_FILE("DIAGRAM_HELP_FILE", "The saved model");
+const HostText<0> DIAGRAM_HELP_NAME("DIAGRAM_HELP_NAME", "Draw only the diagrams of exactly this name");
+const HostText<0> DIAGRAM_HELP_OUTPUT("DIAGRAM_HELP_OUTPUT",
+                                      "The folder to write into; without it the current one");
+
 }  // namespace KYRHostTexts

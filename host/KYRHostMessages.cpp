@@ -47,6 +47,10 @@ const HostMessage<1> KYRHostMessages::CANNOT_WRITE_OUTPUT(13, fatal,
 const HostMessage<0> KYRHostMessages::OUT_OF_MEMORY(14, fatal, "There is not enough memory");
 const HostMessage<1> KYRHostMessages::UNEXPECTED_ERROR(15, fatal, "An unexpected error occurred: {0}");
 
+const HostMessage<1> KYRHostMessages::NO_DIAGRAMS(16, fatal, "The model in '{0}' has no class diagrams");
+const HostMessage<2> KYRHostMessages::NO_SUCH_DIAGRAM(17, fatal,
+                                                      "The model in '{0}' has no class diagram named '{1}'");
+
 KYRHostMessages::KYRHostMessages() : KYRTextLiteralsCollection("kyr", HostLiterals::catalogueName) {
   for (KYRTextLiteral* literal : entered()) add(literal);
   init();

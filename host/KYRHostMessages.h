@@ -27,6 +27,9 @@ class KYRHostMessages final : public KYRTextLiteralsCollection {
   static const HostMessage<2> LOG_FILE_CANNOT_OPEN;
   static const HostMessage<2> LOG_FILE_INCOMPLETE;
   static const HostMessage<1> CANNOT_WRITE_OUTPUT;
+  // Diagrams.
+  static const HostMessage<1> NO_DIAGRAMS;
+  static const HostMessage<2> NO_SUCH_DIAGRAM;
   // What should not happen.
   static const HostMessage<0> OUT_OF_MEMORY;
   static const HostMessage<1> UNEXPECTED_ERROR;

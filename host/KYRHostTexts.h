@@ -37,6 +37,12 @@ extern const HostText<0> INSPECT_HELP_FILE;
 extern const HostText<0> INSPECT_HELP_JSON;
 extern const HostText<0> INSPECT_HELP_OBJECTS;
 
+extern const HostText<0> DIAGRAM_HELP;
+extern const HostText<0> DIAGRAM_HELP_EXAMPLES;
+extern const HostText<0> DIAGRAM_HELP_FILE;
+extern const HostText<0> DIAGRAM_HELP_NAME;
+extern const HostText<0> DIAGRAM_HELP_OUTPUT;
+
 /// The version of the command itself.
 extern const HostText<1> VERSION;
 
@@ -46,6 +52,9 @@ extern const HostText<1> NOT_A_TIME;
 // The closing summary of an import: output file, seconds, and the counts.
 extern const HostText<2> SUMMARY;
 extern const HostText<6> SUMMARY_COUNTS;
+
+/// One line of `kyr diagram` for each picture.
+extern const HostText<1> DIAGRAM_WRITTEN;
 
 // The report of `kyr info`.
 extern const HostText<1> INFO_VERSION;

@@ -63,9 +63,9 @@ void PluginLibrary::load(const std::string& path) {
 }
 
 std::string PluginLibrary::findOwn() {
-  const std::string beside = folderOfProgram() / fileName;
+  std::string beside = folderOfProgram() / fileName;
   if (isFile(beside)) return beside;
-  const std::string installed = (folderOfLibrary() / pluginFolder / fileName).lexically_normal();
+  std::string installed = (folderOfLibrary() / pluginFolder / fileName).lexically_normal();
   if (isFile(installed)) return installed;
   KYRHostMessages::PLUGIN_NOT_FOUND.throwException(KYRString(fileName), KYRString(beside),
                                                    KYRString(installed));

@@ -53,6 +53,9 @@ class UMLElement {
   UMLElement* owner = nullptr;
   Borrowed<UMLComment, KYRVector> ownedComment;
 
+  // Position in the order of reading; of use only for objects that the parser read.
+  unsigned int readingNumber = 0;
+
   bool addOwnedElement(UMLElement* entry) { return ownedElement.add(entry); }
   bool addOwnedComment(UMLComment* entry) { return ownedComment.add(entry); }
 

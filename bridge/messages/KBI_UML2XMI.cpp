@@ -41,8 +41,8 @@ KBI_UML2XMI::ParameterInstance KBI_UML2XMI::BP_ROOT_PACKAGE(
 
 KBI_UML2XMI::MessageInstance_String_String KBI_UML2XMI::UML2_I_UNKNOWN_TAG(
     1, "{0} : Skipping the unknown tag '{1}'", warning);
-KBI_UML2XMI::MessageInstance_String KBI_UML2XMI::UML2_I_COULD_NOT_PARSE_FILE(
-    3, "Could not parse file '{0}'", warning);
+KBI_UML2XMI::MessageInstance_String KBI_UML2XMI::UML2_I_COULD_NOT_PARSE_FILE(3, "Could not parse file '{0}'",
+                                                                             warning);
 KBI_UML2XMI::MessageInstance_String KBI_UML2XMI::UML2_I_DBG_HANDLER_ERROR(
     4, "Could not add a handler for \"{0}\"", fatal);
 KBI_UML2XMI::MessageInstance_String KBI_UML2XMI::UML2_I_RELATIONSHIP_CREATING_ERROR_DETAILED(
@@ -53,22 +53,24 @@ KBI_UML2XMI::MessageInstance KBI_UML2XMI::UML2_I_BAD_HEADERUML2_ERROR(
     8, "This file may not be a valid UML2 file.", fatal);
 KBI_UML2XMI::MessageInstance_String_String KBI_UML2XMI::UML2_I_TARGET_TOOL(
     9, "This file follows {0} '{1}' conventions", status);
-KBI_UML2XMI::MessageInstance_String_String KBI_UML2XMI::UML2_I_DETECTED_VERSION(
-    10, "Detected {0} version {1}", status);
-KBI_UML2XMI::MessageInstance KBI_UML2XMI::UML2_S_PARSING_EXTENSIONS(
-    11, "Parsing tool specific extensions", status);
-KBI_UML2XMI::MessageInstance KBI_UML2XMI::UML2_S_PROCESSING_EXTENSIONS(
-    12, "Importing tool specific extensions", status);
+KBI_UML2XMI::MessageInstance_String_String KBI_UML2XMI::UML2_I_DETECTED_VERSION(10,
+                                                                                "Detected {0} version {1}",
+                                                                                status);
+KBI_UML2XMI::MessageInstance KBI_UML2XMI::UML2_S_PARSING_EXTENSIONS(11, "Parsing tool specific extensions",
+                                                                    status);
+KBI_UML2XMI::MessageInstance KBI_UML2XMI::UML2_S_PROCESSING_EXTENSIONS(12,
+                                                                       "Importing tool specific extensions",
+                                                                       status);
 KBI_UML2XMI::MessageInstance KBI_UML2XMI::UML2_S_PROCESSING_ELEMENTS(13, "Importing elements...", status);
 KBI_UML2XMI::MessageInstance KBI_UML2XMI::UML2_S_PROCESSING_TYPES(14, "Importing types...", status);
-KBI_UML2XMI::MessageInstance KBI_UML2XMI::UML2_S_PROCESSING_RELATIONSHIPS(15, "Importing relations...", status);
-KBI_UML2XMI::MessageInstance_String KBI_UML2XMI::UML2_I_CAN_NOT_DETECT(
-    16, "Can not detect the {0} version", warning);
+KBI_UML2XMI::MessageInstance KBI_UML2XMI::UML2_S_PROCESSING_RELATIONSHIPS(15, "Importing relations...",
+                                                                          status);
+KBI_UML2XMI::MessageInstance_String KBI_UML2XMI::UML2_I_CAN_NOT_DETECT(16, "Can not detect the {0} version",
+                                                                       warning);
 KBI_UML2XMI::MessageInstance_String KBI_UML2XMI::UML2_S_PARSING_FILE(17, "Parsing file '{0}'", status);
 KBI_UML2XMI::MessageInstance KBI_UML2XMI::UML2_S_CREATING_DIAGRAMS(18, "Importing diagrams...", status);
 KBI_UML2XMI::MessageInstance_String_String KBI_UML2XMI::UML2_W_COULD_NOT_ADD_OBJECT_TO_SCHEMA(
-    19,
-    "Could not add '{0}' to owner schema '{1}' because it already contains an object with the same name.",
+    19, "Could not add '{0}' to owner schema '{1}' because it already contains an object with the same name.",
     warning);
 KBI_UML2XMI::MessageInstance KBI_UML2XMI::UML2_S_CREATING_KEYS(20, "Importing keys...", status);
 

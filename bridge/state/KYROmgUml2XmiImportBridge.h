@@ -12,11 +12,13 @@
 
 #include <cstdint>
 #include <memory>
+#include <string>
 #include <unordered_map>
 #include <vector>
 
 #include "bridge/state/CommentTargets.h"
 #include "bridge/state/TextKeyHashtable.h"
+#include "bridge/state/TypeIndex.h"
 #include "foundation/Borrowed.h"
 #include "foundation/KYRDOM.h"
 #include "foundation/KYRFile.h"
@@ -31,6 +33,9 @@ class KYRDataStoreVersion;
 class KYRDataTypeConverter;
 class KYRLog;
 class KYROptionList;
+class Point2DVector;
+class targetDatabaseInfo;
+struct Point2D;
 
 class KYROmgUml2XmiImportBridge {
  public:
@@ -61,14 +66,47 @@ class KYROmgUml2XmiImportBridge {
     using TextKeyHashtable::TextKeyHashtable;
   };
 
+  /// Tables grow with their content. Of these there is one for each frame and each shape.
+  static constexpr int smallTable = 16;
+
   /// A record of a diagram. Records that hold others free them in their destructors.
   struct MD {
+    MD() = default;
+    MD(const MD&) = delete;
+    MD& operator=(const MD&) = delete;
     virtual ~MD() = default;
     KYRString id;
   };
   class MDHashtable : public TextKeyHashtable<MD, &MD::id> {
    public:
     using TextKeyHashtable::TextKeyHashtable;
+    /// The record at a position as what it is; null at a gap.
+    template <class Record>
+    Record* recordAt(unsigned int slot) const {
+      return dynamic_cast<Record*>(at(slot));
+    }
+    void deleteRecords() noexcept;
+  };
+
+  /// A shape or a line on a diagram.
+  struct MDDiagramFrameElement : MD {
+    ~MDDiagramFrameElement() override;
+    KYRString umlRef;                        // the id of what it shows
+    const KYRDOMElement* element = nullptr;  // in the tree of domRoot
+    MDHashtable children{smallTable};        // owned: the generalizations of a tree
+  };
+
+  /// What stands on a diagram.
+  struct MDDiagramFrame : MD {
+    ~MDDiagramFrame() override;
+    MDHashtable elements{smallTable};  // owned: MDDiagramFrameElement
+  };
+
+  /// A class diagram of the file.
+  struct MDDiagram : MD {
+    KYRString packageId;
+    const KYRDOMElement* element = nullptr;  // in the tree of domRoot
+    std::unique_ptr<MDDiagramFrame> frame;   // null for a diagram without shapes
   };
 
   explicit KYROmgUml2XmiImportBridge(KYRLog* importLog);
@@ -85,6 +123,7 @@ class KYROmgUml2XmiImportBridge {
   void stampOrigin(const KYRString& originId);
   void loadDom();
   void finishModel();
+  void markOptionalAttributes();
   /// Frees the working state and prunes empty packages. Never raises.
   void release() noexcept;
   void deleteDroppedAttribute(KYRAttribute* attribute);
@@ -129,6 +168,60 @@ class KYROmgUml2XmiImportBridge {
   void convertRealization(UMLInterfaceRealization* element);
   void convertDependency(UMLDependency* element);
 
+  // Data store and schemas.
+  /// The row of `targetDatabases` that the file's profiles name, or null.
+  const targetDatabaseInfo* findTargetDatabase() const;
+  void chooseDataStore();
+  void loadOwners();
+  void placeClassesInSchemas();
+  /// The schema of that name, without regard to case; made when it is missing.
+  KYRDatabaseSchema* fetchSchema(const KYRString& name);
+  void addToSchema(KYRClass* object, KYRDatabaseSchema* schema);
+
+  // Types. All that are made belong to the store model.
+  void assignFeatureType(KYRObject* feature);
+  KYRType* convertType(UMLType* element);
+  KYRDerivedType* getDerivedType(const KYRString& typeName, const KYRString& sourceId, int length, int scale,
+                                 bool withBase);
+  /// The first type of the model with that name, without regard to case, and those values; or null.
+  KYRConcreteType* findDerivedType(KYRStoreModel* model, const KYRString& name, int length, int scale,
+                                   int elementType);
+  KYRClassType* getClassType(KYRClass* typeClass);
+  KYRConcreteType* getBaseType(const KYRString& dataType);
+  void convertEnumerationLiterals(KYRDerivedType* type);
+
+  // Keys.
+  void convertKeys();
+  void addPrimaryKeyAttribute(const KYRString& keyName, KYRAttribute* attribute);
+  void addForeignKeyAttribute(const KYRString& keyName, KYRAttribute* attribute);
+
+  // Diagrams. Whatever does not resolve leaves its shape out, in silence.
+  void importDiagrams();
+  void collectDiagrams(const KYRDOMElement* element, KYRString packageId);
+  void collectFrames(const KYRDOMElement* element);
+  void addFrameElement(const KYRDOMElement* element, MDDiagramFrame* frame);
+  void importDiagram(MDDiagram* diagram);
+  void createClassProjection(KYRClassDiagram* diagram, const KYRDOMElement* element, KYRModelObject* subject);
+  void createGeneralizationProjections(KYRClassDiagram* diagram, const KYRDOMElement* element,
+                                       KYRGeneralizationRole* role, KYRGeneralization* generalization,
+                                       MDHashtable& shapes);
+  void createAssociationProjections(KYRClassDiagram* diagram, const KYRDOMElement* element,
+                                    KYRModelObject* subject, MDHashtable& shapes);
+  void createTreeProjections(KYRClassDiagram* diagram, const KYRDOMElement* element,
+                             MDDiagramFrameElement* tree, KYRGeneralization* generalization,
+                             MDHashtable& shapes);
+  /// The first display property of that class and name, both without regard to case; or null.
+  static const KYRDOMElement* findProperty(const KYRString& name, const KYRString& propertyClass,
+                                           const KYRDOMElement* element);
+  /// The box as the file has it. False, and all four 0, unless all four numbers are there.
+  static bool readGeometry(const KYRDOMElement* element, int& x, int& y, int& w, int& h);
+  /// A point and the points of a line, scaled to repository units.
+  static Point2D parsePoint(const KYRString& text);
+  static void parsePoints(const KYRString& text, Point2DVector& points);
+  static int readDisplayFlags(const KYRDOMElement* element);
+  /// 0xRRGGBB turned into 0xBBGGRR.
+  static int swapColor(int value);
+
   // What the phases share.
   /// Ties element and object to each other and enters the object in `objects`.
   void enter(KYRObject* object, UMLElement* element);
@@ -140,6 +233,8 @@ class KYROmgUml2XmiImportBridge {
   /// what it meets twice a second time, would never end within reason.
   void countSteps(unsigned int steps);
 
+  /// Behind the id of an association class: the key of its association in `objects`.
+  static constexpr const char* associationSuffix = "_ASSOCIATION";
   static constexpr std::uint64_t stepsForAnyFile = 1000000;
   static constexpr std::uint64_t stepsForOneElement = 100;
 
@@ -172,6 +267,10 @@ class KYROmgUml2XmiImportBridge {
   KYRHashtable unplacedObjects;
   std::uint64_t stepCount = 0;
   std::uint64_t stepLimit = stepsForAnyFile;
+  /// Enumeration literals looked at so far. Tests count them to show that each is once for each type.
+  std::uint64_t literalCount = 0;
+  /// Where derived types are found.
+  TypeIndex typeIndex;
 
  private:
   std::unique_ptr<KYRDesignPackage> createPackage(UMLPackage* element);
@@ -180,12 +279,58 @@ class KYROmgUml2XmiImportBridge {
   void convertAttributes(KYRClass* target, const Borrowed<UMLProperty, KYROrderedVector>& properties);
   void convertOperations(KYRClass* target, const Borrowed<UMLOperation, KYROrderedVector>& operations);
   void collectGeneralizations(const UMLClassifier* element);
+  void collectDiagram(const KYRDOMElement* element, const KYRString& packageId);
+  void collectFrame(const KYRDOMElement* extension);
+  MDDiagram* findFramedDiagram(const KYRDOMElement* views) const;
+  static void addTreeBranch(const KYRDOMElement* shape, MDDiagramFrame& frame);
+  void importShapes(KYRClassDiagram* diagram, const MDHashtable& shapes);
+  void importLines(KYRClassDiagram* diagram, MDHashtable& shapes);
+  void importTrees(KYRClassDiagram* diagram, MDHashtable& shapes);
+  KYRModelObject* findModelObject(const KYRString& id) const;
+  // The classes that a line joins; a class counts only when it stands on the diagram.
+  struct LineEnds {
+    KYRClass* first;
+    KYRClass* second;
+    bool areFound() const noexcept { return first != nullptr && second != nullptr; }
+  };
+  LineEnds findLineEnds(const KYRClassDiagram* diagram, const KYRDOMElement* element,
+                        const MDHashtable& shapes) const;
+  KYRClass* findLineEnd(const KYRClassDiagram* diagram, const KYRString& shapeId,
+                        const MDHashtable& shapes) const;
+  KYRPresentationElement* findTreeBase(KYRClassDiagram* diagram, const KYRDOMElement* element,
+                                       const MDHashtable& shapes) const;
+  static void createBranch(KYRClassDiagram* diagram, const KYRDOMElement* element, KYRModelObject* subRole,
+                           const KYRProjection& marker);
   void keepUnplaced(std::unique_ptr<KYRObject> object);
   void destroyUnplaced() noexcept;
   KYRGeneralization* createGeneralization(UMLElement* cause, KYRClass* super);
+  void placeTablesWithOwners();
+  void placePackagesAsSchemas();
+  KYRType* typeOf(const UMLTypedElement* element);
+  KYRDerivedType* convertEnumeration(UMLEnumeration* element);
+  void addTypeValue(KYRDerivedType* type, UMLEnumerationLiteral* literal, KYRString& dataType);
+  void ensureBaseType(KYRDerivedType* type);
+  using KeyOperation = void (KYROmgUml2XmiImportBridge::*)(const KYRString& keyName, KYRAttribute* attribute);
+  void convertKeysOf(const KYRString& tag, KeyOperation add);
+  bool addKeyOverAssociation(const KYRString& keyName, KYRAttribute* attribute, const KYRString& role,
+                             const KYRString& column);
+  void addKeysOverGeneralizations(const KYRString& keyName, KYRAttribute* attribute, const KYRString& column);
+  const std::vector<KYRAssociationRole*>& rolesTowards(const KYRClass* keyClass, const KYRString& farRole);
+
+  // The type that an enumeration has filled, and the data type that its literals tell.
+  struct EnumerationPass {
+    const KYRDerivedType* type = nullptr;
+    KYRString dataType;
+  };
 
   // Indexes beside the lists above: none holds anything that the lists do not.
   std::unordered_map<const UMLAssociation*, AssociationClass*> recordsByElement_;
   std::unordered_map<const KYRClass*, KYRGeneralization*> generalizationsBySuper_;
+  std::unordered_map<std::string, KYRDatabaseSchema*> schemasByName_;  // names in small letters
+  std::unordered_map<std::string, KYRConcreteType*> baseTypes_;
+  std::unordered_map<const UMLEnumeration*, EnumerationPass> enumerationPasses_;
+  // By class, and by the name of the far role in small letters.
+  std::unordered_map<const KYRClass*, std::unordered_map<std::string, std::vector<KYRAssociationRole*>>>
+      rolesByFarName_;
   CommentTargets commentTargets_;
 };

@@ -44,6 +44,7 @@ void TypeIndex::catchUp() {
     auto* const type = dynamic_cast<KYRConcreteType*>(model_->types[indexed_]);
     if (type == nullptr) continue;
     types_.try_emplace(
-        {foldedText(type->getName().view()), type->getLength(), type->getScale(), type->getElementType()}, type);
+        {foldedText(type->getName().view()), type->getLength(), type->getScale(), type->getElementType()},
+        type);
   }
 }

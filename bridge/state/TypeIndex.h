@@ -15,6 +15,9 @@
 
 class TypeIndex {
  public:
+  TypeIndex() = default;
+  TypeIndex(const TypeIndex&) = delete;
+  TypeIndex& operator=(const TypeIndex&) = delete;
   /// The first such type of the model, or null. Class types have no length and are never found.
   KYRConcreteType* find(const KYRModel& model, const KYRString& name, int length, int scale, int elementType);
   /// Types indexed and keys compared so far. Tests count them to show that the cost stays linear.

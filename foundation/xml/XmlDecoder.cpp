@@ -1,3 +1,4 @@
+// Reads the head of the input, then either hands bytes through or converts them from `raw_`.
 #include "foundation/xml/XmlDecoder.h"
 
 #include <algorithm>
@@ -83,16 +84,18 @@ std::size_t XmlDecoder::read(char* buffer, std::size_t capacity) {
 
 std::size_t XmlDecoder::transcode(char* buffer, std::size_t capacity) {
   char* output = buffer;
-  while (output == buffer && !isFinished_) {
+  while (output == buffer && !isFinished_ && !isBroken_) {
     const char* input = raw_.data() + rawUsed_;
     const XmlTranscoder::Stop stop =
         transcoder_->convert(input, raw_.data() + rawEnd_, output, buffer + capacity);
     rawUsed_ = static_cast<std::size_t>(input - raw_.data());
     if (output != buffer) break;
-    if (stop == XmlTranscoder::Stop::invalid) raiseInvalidByte();
+    isBroken_ = stop == XmlTranscoder::Stop::invalid;
+    if (isBroken_) break;
     refill();
     if (!isInputAtEnd_) continue;
-    if (rawUsed_ != rawEnd_) raiseInvalidByte();  // the file ends within a character
+    isBroken_ = rawUsed_ != rawEnd_;  // the file ends within a character
+    if (isBroken_) break;
     transcoder_->finish(output, buffer + capacity);
     isFinished_ = true;
   }

@@ -22,10 +22,13 @@ class KYR_EXPORT XmlDecoder {
   ~XmlDecoder();
 
   const XmlEncoding& getEncoding() const noexcept { return encoding_; }
-  /// Puts the next bytes of UTF-8 into `buffer`, `capacity` of them at most; 0 at the end only.
-  /// A byte that is not valid in the encoding raises a KYRException with its position, once all that
-  /// stands before it has been given.
+  /// Puts the next bytes of UTF-8 into `buffer`, `capacity` of them at most; 0 at the end, and in front
+  /// of a byte that is not valid in the encoding.
   std::size_t read(char* buffer, std::size_t capacity);
+  /// Whether an invalid byte has ended the text.
+  bool isBroken() const noexcept { return isBroken_; }
+  /// Raises a KYRException of the byte that has ended the text, and its position.
+  [[noreturn]] void raiseInvalidByte() const;
 
  private:
   void readHead();
@@ -33,7 +36,6 @@ class KYR_EXPORT XmlDecoder {
   std::size_t readInput(char* buffer, std::size_t capacity);
   std::size_t transcode(char* buffer, std::size_t capacity);
   void refill();
-  [[noreturn]] void raiseInvalidByte() const;
 
   XmlInput& input_;
   std::string head_;  // read to tell the encoding and not yet given
@@ -45,6 +47,7 @@ class KYR_EXPORT XmlDecoder {
   std::size_t rawEnd_ = 0;
   bool isInputAtEnd_ = false;
   bool isFinished_ = false;
+  bool isBroken_ = false;
   std::string spill_;  // converted, but too much for the buffer of the caller
   XmlPosition position_;
 };

@@ -1,3 +1,4 @@
+// Walks over the node array: a subtree is a range, so a sibling is where the range ends.
 #include "foundation/xml/XmlDocument.h"
 
 XmlDocument::XmlDocument() = default;

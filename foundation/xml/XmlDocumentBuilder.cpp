@@ -1,3 +1,4 @@
+// The last record of the node array is a sentinel; a new node fills it and puts another behind it.
 #include "foundation/xml/XmlDocumentBuilder.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// A plain list: an import holds a handful of documents at a time.
 #include "foundation/xml/XmlDocumentCache.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The walk needs no stack: the open elements are the parents of the node at hand.
 #include "foundation/xml/XmlDocumentListener.h"
 
 XmlDocumentListener::~XmlDocumentListener() = default;

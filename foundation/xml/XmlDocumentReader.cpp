@@ -1,3 +1,4 @@
+// Puts input, tokenizer, builder and cache together.
 #include "foundation/xml/XmlDocumentReader.h"
 
 #include "foundation/xml/XmlDocumentBuilder.h"

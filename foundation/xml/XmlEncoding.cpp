@@ -1,3 +1,4 @@
+// Tables of marks and names, and a reader of just as much of the XML declaration as is needed.
 #include "foundation/xml/XmlEncoding.h"
 
 #include <algorithm>
@@ -62,7 +63,7 @@ constexpr std::array<Alias, 29> aliases = {{
     {"CSKSC56011987", "CP949"},
     {"WINDOWS-949", "CP949"},
     {"MAC-ROMAN", "MACINTOSH"},
-    // No characters sets of files but forms of the C library's memory.
+    // Forms of text in the memory of the C library; no file is written in them.
     {"INTERNAL", ""},
     {"WCHAR_T", ""},
     {"CHAR", ""},

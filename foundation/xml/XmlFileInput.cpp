@@ -1,3 +1,4 @@
+// POSIX files: asked what they are before and after opening, read without blocking on anything.
 #include "foundation/xml/XmlFileInput.h"
 
 #include <fcntl.h>

@@ -1,3 +1,4 @@
+// Bytes in memory as an input.
 #include "foundation/xml/XmlInput.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The limits in force, one set for the process.
 #include "foundation/xml/XmlLimits.h"
 
 #include <algorithm>

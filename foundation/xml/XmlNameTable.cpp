@@ -1,3 +1,4 @@
+// Open addressing behind a small direct-mapped cache of the names met last.
 #include "foundation/xml/XmlNameTable.h"
 
 #include <random>

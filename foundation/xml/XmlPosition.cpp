@@ -1,3 +1,4 @@
+// Lines and columns over UTF-8, and how positions and bytes are written in messages.
 #include "foundation/xml/XmlPosition.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Small texts share blocks; large ones get their own, so that no block is left half empty.
 #include "foundation/xml/XmlTextArena.h"
 
 #include <cstring>

@@ -1,3 +1,4 @@
+// The handlers of expat, the limits they enforce, and the loop that feeds blocks.
 #include "foundation/xml/XmlTokenizer.h"
 
 #include <expat.h>
@@ -35,6 +36,12 @@ bool startsWithUtf8(std::string_view text) noexcept {
   }
   return lead >= 0xF0 && lead <= 0xF4 && continues(1, 4) && !(lead == 0xF0 && second < 0x90) &&
          !(lead == 0xF4 && second > 0x8F);
+}
+
+// Whether the text ends too early: for a text cut by an invalid byte, that is no reason but a result.
+bool tellsOfTheEnd(XML_Error error) noexcept {
+  return error == XML_ERROR_NO_ELEMENTS || error == XML_ERROR_UNCLOSED_TOKEN ||
+         error == XML_ERROR_PARTIAL_CHAR || error == XML_ERROR_UNCLOSED_CDATA_SECTION;
 }
 
 }  // namespace
@@ -106,6 +113,7 @@ void XmlTokenizer::run() {
     if (status != XML_STATUS_OK) raiseError();
     checkPendingMarkup();
   }
+  if (decoder_.isBroken()) decoder_.raiseInvalidByte();
 }
 
 template <class Action>
@@ -189,21 +197,33 @@ void XmlTokenizer::checkPendingMarkup() {
   }
 }
 
-void XmlTokenizer::raiseError() const {
+void XmlTokenizer::raiseError() {
   const XML_Error error = XML_GetErrorCode(parser_.get());
   if (error == XML_ERROR_NO_MEMORY) throw std::bad_alloc();
-  const std::string_view rest = getRestAtError();
-  if (error == XML_ERROR_INVALID_TOKEN && decoder_.getEncoding().isUtf8() && !startsWithUtf8(rest)) {
-    raiseXmlError(KYRStdMessages::XML_NOT_UTF8, input_.getName(), getPosition(), describeByte(rest.front()));
+  if (decoder_.isBroken() && tellsOfTheEnd(error)) decoder_.raiseInvalidByte();
+  if (error == XML_ERROR_INVALID_TOKEN && decoder_.getEncoding().isUtf8()) {
+    const XmlPosition position = getPosition();
+    const std::string bytes = readCharacterAtError();
+    if (!startsWithUtf8(bytes)) {
+      raiseXmlError(KYRStdMessages::XML_NOT_UTF8, input_.getName(), position, describeByte(bytes.front()));
+    }
   }
   raiseXmlError(KYRStdMessages::XML_NOT_WELL_FORMED, input_.getName(), getPosition(),
                 KYRString(XML_ErrorString(error)));
 }
 
-std::string_view XmlTokenizer::getRestAtError() const {
+// The bytes of the character that expat stopped at: what it has of them, and the next ones of the text.
+std::string XmlTokenizer::readCharacterAtError() {
+  constexpr std::size_t longestCharacter = 4;
   int offset = 0;
   int size = 0;
   const char* const context = XML_GetInputContext(parser_.get(), &offset, &size);
   if (context == nullptr || offset < 0 || offset >= size) return {};
-  return std::string_view(context, static_cast<std::size_t>(size)).substr(static_cast<std::size_t>(offset));
+  std::string bytes(context + offset, std::min(static_cast<std::size_t>(size - offset), longestCharacter));
+  while (bytes.size() < longestCharacter) {
+    char byte = '\0';
+    if (decoder_.read(&byte, 1) == 0) break;
+    bytes += byte;
+  }
+  return bytes;
 }

@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <exception>
 #include <memory>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -77,8 +78,8 @@ class KYR_EXPORT XmlTokenizer {
   [[noreturn]] void raiseLimit(const Message& message, const XmlPosition& position, std::size_t limit) const;
   std::size_t getNextBlockSize() const noexcept;
   void checkPendingMarkup();
-  [[noreturn]] void raiseError() const;
-  std::string_view getRestAtError() const;
+  [[noreturn]] void raiseError();
+  std::string readCharacterAtError();
 
   const XmlLimits limits_;
   XmlInput& input_;

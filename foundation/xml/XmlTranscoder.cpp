@@ -1,3 +1,4 @@
+// Tables are read off iconv itself, byte by byte, so both roads agree on every encoding.
 #include "foundation/xml/XmlTranscoder.h"
 
 #include <iconv.h>
@@ -144,16 +145,16 @@ class TableTranscoder final : public XmlTranscoder {
 XmlTranscoder::~XmlTranscoder() = default;
 
 std::unique_ptr<XmlTranscoder> XmlTranscoder::open(const std::string& converterName) {
-  if (!Converter(converterName).isOpen()) {
+  std::string name = converterName;
+  if (!Converter(name).isOpen()) {
     // Java calls ISO-8859-5 "ISO8859_5" and EUC-JP "EUC_JP".
-    std::string hyphened = converterName;
-    std::replace(hyphened.begin(), hyphened.end(), '_', '-');
-    return hyphened == converterName ? nullptr : open(hyphened);
+    std::replace(name.begin(), name.end(), '_', '-');
+    if (!Converter(name).isOpen()) return nullptr;
   }
   CharacterTable table;
-  if (readTable(converterName, table)) {
-    if (converterName == "CP1252") defineControlCharacters(table);
+  if (readTable(name, table)) {
+    if (name == "CP1252") defineControlCharacters(table);
     return std::make_unique<TableTranscoder>(table);
   }
-  return std::make_unique<IconvTranscoder>(converterName);
+  return std::make_unique<IconvTranscoder>(name);
 }

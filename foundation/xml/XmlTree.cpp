@@ -1,3 +1,4 @@
+// Elements are found over pages of pointers by node number; pages are made where they are needed.
 #include "foundation/xml/XmlTree.h"
 
 #include <algorithm>

@@ -63,3 +63,13 @@ KYR_EXPORT void setPropertyValue(KYRPropertyType* propertyType, const KYRString&
 KYR_EXPORT const KYRString& getPhysicalName(const KYRModelObject* object);
 /// The first presentation element made for the object on the diagram; null when there is none.
 KYR_EXPORT KYRPresentationElement* getPresentationElement(KYRModelObject* object, KYRDiagram* diagram);
+
+/// Deletes what the diagram cannot show: a presentation element whose object is gone, or is neither a
+/// model element of the diagram nor a role of an association or a generalization that is one. The
+/// others keep their order. Null is passed over.
+KYR_EXPORT void verifyDiagram(KYRClassDiagram* diagram);
+/// With `normalize` moves all that the diagram shows, without changing the picture, so that no box and
+/// no line point lies at a negative place; negative sizes become 0. A shape without a place (all four
+/// numbers 0) stays as it is, and so do line points that are not in the stored form. Without it the
+/// picture stays at the place that the source gave it, and nothing is changed. Null is passed over.
+KYR_EXPORT void processPresentationElements(KYRClassDiagram* diagram, bool normalize);

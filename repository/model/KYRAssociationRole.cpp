@@ -17,7 +17,8 @@ void KYRAssociationRole::addAssociatedClass(KYRClass* end) {
 }
 
 void KYRAssociationRole::addForeignKey(KYRForeignKey* key) {
-  KYRLinks::tie(*KYRLinks::required(key), key->associationRole, this, &KYRAssociationRole::foreignKeys);
+  KYRLinks::required(key);
+  KYRLinks::tie(*key, key->associationRole, this, &KYRAssociationRole::foreignKeys);
 }
 
 void KYRAssociationRole::unlink() {

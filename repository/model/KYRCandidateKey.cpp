@@ -8,7 +8,8 @@
 KYRCandidateKey::~KYRCandidateKey() { dissolve(); }
 
 void KYRCandidateKey::addForeignKey(KYRForeignKey* key) {
-  KYRLinks::tie(*KYRLinks::required(key), key->candidateKey, this, &KYRCandidateKey::foreignKeys);
+  KYRLinks::required(key);
+  KYRLinks::tie(*key, key->candidateKey, this, &KYRCandidateKey::foreignKeys);
 }
 
 void KYRCandidateKey::leavingOwner() {

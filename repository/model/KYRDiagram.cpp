@@ -16,7 +16,8 @@ KYRDiagram::KYRDiagram() = default;
 KYRDiagram::~KYRDiagram() = default;
 
 void KYRDiagram::addModelElement(KYRModelElement* element) {
-  KYRLinks::linkOnce(modelElements, KYRLinks::required(element), element->diagrams, this);
+  KYRLinks::required(element);
+  KYRLinks::linkOnce(modelElements, element, element->diagrams, this);
 }
 
 void KYRDiagram::addPresentationElement(KYRPresentationElement* presentationElement) {

@@ -12,7 +12,8 @@ void KYRGeneralizationRole::addAssociatedClass(KYRClass* end) {
 }
 
 void KYRGeneralizationRole::addForeignKey(KYRForeignKey* key) {
-  KYRLinks::tie(*KYRLinks::required(key), key->generalizationRole, this, &KYRGeneralizationRole::foreignKeys);
+  KYRLinks::required(key);
+  KYRLinks::tie(*key, key->generalizationRole, this, &KYRGeneralizationRole::foreignKeys);
 }
 
 void KYRGeneralizationRole::leavingOwner() {

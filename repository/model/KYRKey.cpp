@@ -8,7 +8,8 @@
 KYRKey::~KYRKey() = default;
 
 void KYRKey::addAttribute(KYRAttribute* attribute) {
-  KYRLinks::linkOnce(attributes, KYRLinks::required(attribute), attribute->keys, this);
+  KYRLinks::required(attribute);
+  KYRLinks::linkOnce(attributes, attribute, attribute->keys, this);
 }
 
 void KYRKey::addAssociatedClass(KYRClass* keyClass) { KYRLinks::required(keyClass)->addKey(this); }

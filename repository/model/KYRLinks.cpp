@@ -13,6 +13,7 @@ void KYRLinks::leaveOwner(KYRObject& entry) noexcept {
 }
 
 KYRObject* KYRLinks::nextInChain(const KYRObject& object) noexcept {
+  // NOLINTNEXTLINE(performance-no-int-to-ptr): one field serves chains and numbers, never at a time
   return reinterpret_cast<KYRObject*>(object.scratch_);
 }
 

@@ -1,6 +1,8 @@
 // A model as owner of origins, types and property definitions.
 #include "repository/model/KYRModel.h"
 
+#include <algorithm>
+
 #include "repository/model/KYRLinks.h"
 #include "repository/model/KYRMetadataOrigin.h"
 #include "repository/model/KYRPropertyType.h"
@@ -11,8 +13,12 @@ KYRModel::~KYRModel() = default;
 
 void KYRModel::addMetadataOrigin(KYRMetadataOrigin* origin) {
   KYRLinks::required(origin);
-  origins_.emplace_back(nullptr);  // the room first, so that a failure leaves the origin to the caller
-  origins_.back().reset(origin);
+  const bool isKnown = std::any_of(origins_.begin(), origins_.end(),
+                                   [origin](const auto& known) { return known.get() == origin; });
+  if (!isKnown) {
+    origins_.emplace_back(nullptr);  // the room first, so that a failure leaves the origin to the caller
+    origins_.back().reset(origin);
+  }
   metadataOrigin = origin;
 }
 

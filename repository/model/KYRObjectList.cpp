@@ -9,9 +9,13 @@ KYRObjectList::KYRObjectList() noexcept = default;
 KYRObjectList::~KYRObjectList() = default;
 
 KYRObject* KYRObjectList::getAt(std::uint32_t index) const noexcept {
+  const std::uint32_t count = getCount();
+  if (index >= count) return nullptr;
+  // There are no gaps at the ends.
+  if (index == 0) return entries_[first_];
+  if (index == count - 1) return entries_.back();
   if (gaps_ != 0) closeGaps();
-  const std::size_t place = static_cast<std::size_t>(first_) + index;
-  return place < entries_.size() ? entries_[place] : nullptr;
+  return entries_[static_cast<std::size_t>(first_) + index];
 }
 
 bool KYRObjectList::contains(const KYRObject* object) const noexcept {
@@ -19,7 +23,8 @@ bool KYRObjectList::contains(const KYRObject* object) const noexcept {
 }
 
 void KYRObjectList::add(KYRObject* object) {
-  if (first_ > indexThreshold && first_ > entries_.size() / 2) closeGaps();
+  const std::uint32_t gone = first_ + gaps_;
+  if (gone > indexThreshold && gone > entries_.size() / 2) closeGaps();
   entries_.push_back(object);
   if (!positions_) return;
   try {

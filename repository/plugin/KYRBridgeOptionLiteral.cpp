@@ -21,8 +21,8 @@ const KYRString& KYRBridgeOptionLiteral::getDefaultValue() const noexcept {
 }
 
 std::unique_ptr<KYROption> KYRBridgeOptionLiteral::generateOption(bool isMandatory) const {
-  return std::make_unique<KYROption>(getIdentifier(), getDisplayName(), type_, description_, getDefaultValue(),
-                                     isMandatory);
+  return std::make_unique<KYROption>(getIdentifier(), getDisplayName(), type_, description_,
+                                     getDefaultValue(), isMandatory);
 }
 
 std::unique_ptr<KYROption> KYRBridgeOptionLiteral::generateOption(bool isMandatory,

@@ -269,15 +269,14 @@ void SavedModelBuilder::beginObject() {
     return;
   }
   const Frame& frame = frames_.back();
-  if (frame.place == Place::document && member_ == model) {
+  const bool isModel = frame.place == Place::document && member_ == model;
+  if (isModel || frame.place == Place::children) {
     frames_.emplace_back(Place::object);
   } else if (frame.place == Place::origins) {
     auto origin = std::make_unique<KYRMetadataOrigin>();
     model_->addMetadataOrigin(origin.get());
     origin.release();
     frames_.emplace_back(Place::origin);
-  } else if (frame.place == Place::children) {
-    frames_.emplace_back(Place::object);
   } else if (frame.place == Place::propertyValues) {
     KYRObject* const holder = frame.object;
     frames_.emplace_back(Place::propertyValue).object = holder;
@@ -294,7 +293,7 @@ void SavedModelBuilder::endObject() {
     if (frame.stored == nullptr) missMember(className);
   } else if (frame.place == Place::propertyValue) {
     if (frame.id == 0) missMember(propertyType);
-    references_.addPropertyValue(static_cast<KYRElement*>(frame.object), frame.id, propertyText_, offset_);
+    references_.addPropertyValue(dynamic_cast<KYRElement*>(frame.object), frame.id, propertyText_, offset_);
   } else if (frame.place == Place::document) {
     for (const std::string_view name : {format, version, designLevel, storeType, origins, model}) {
       if ((frame.seen >> indexOf(documentMembers, name) & 1U) == 0) missMember(name);

@@ -18,9 +18,7 @@ class Saving {
   void enter(const KYRObject& object, const StoredClass& stored) {
     writer_.beginObject(numbers_.get(&object), stored.name);
     for (const StoredField* field : stored.values) write(object, *field);
-    if (object.isInstanceOf(KYRElementType::element)) {
-      writePropertyValues(static_cast<const KYRElement&>(object));
-    }
+    if (const auto* element = dynamic_cast<const KYRElement*>(&object)) writePropertyValues(*element);
   }
   void leave() { writer_.endObject(); }
   void beginList(const StoredField& field) { writer_.beginList(field.name); }

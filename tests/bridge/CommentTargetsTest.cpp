@@ -24,7 +24,8 @@ TEST(CommentTargets, ACommentThatAnnotatesNothingAppliesToAnything) {
 }
 
 TEST(CommentTargets, IdsAreComparedWithoutRegardToCaseInShortAndLongLists) {
-  for (const unsigned int count : {1U, CommentTargets::indexThreshold - 1, CommentTargets::indexThreshold, 50U}) {
+  for (const unsigned int count :
+       {1U, CommentTargets::indexThreshold - 1, CommentTargets::indexThreshold, 50U}) {
     CommentTargets targets;
     UMLComment comment("c", "");
     std::vector<std::unique_ptr<UMLElement>> annotated;

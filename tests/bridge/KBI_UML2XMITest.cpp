@@ -63,12 +63,13 @@ TEST(KBI_UML2XMI, EachMessageHasItsNumberCodeLevelAndText) {
 TEST(KBI_UML2XMI, TheCatalogueHoldsItsLiteralsInOrderAndNothingElse) {
   KYRVector literals;
   KBI_UML2XMI::getAllLiterals(literals);
-  std::vector<const KYRTextLiteral*> expected = {&M::BRIDGE_SPEC_OMGUML2XMINOMAGICMAGICDRAW_IMPORT_DESCRIPTION,
-                                                 &M::BRIDGE_SPEC_OMGUML2XMI_IMPORT_DESCRIPTION,
-                                                 &M::BP_FILE_DEFAULT,
-                                                 &M::BP_FILE,
-                                                 &M::BP_ROOT_PACKAGE_DEFAULT,
-                                                 &M::BP_ROOT_PACKAGE};
+  std::vector<const KYRTextLiteral*> expected = {
+      &M::BRIDGE_SPEC_OMGUML2XMINOMAGICMAGICDRAW_IMPORT_DESCRIPTION,
+      &M::BRIDGE_SPEC_OMGUML2XMI_IMPORT_DESCRIPTION,
+      &M::BP_FILE_DEFAULT,
+      &M::BP_FILE,
+      &M::BP_ROOT_PACKAGE_DEFAULT,
+      &M::BP_ROOT_PACKAGE};
   // The order of the table above is that of the numbers, and so is the catalogue's.
   for (const Row& row : rows) expected.push_back(&row.message);
   ASSERT_EQ(literals.getCount(), expected.size());
@@ -141,29 +142,33 @@ TEST(KBI_UML2XMI, OptionsAreDefinedWithNameTypeDescriptionAndDefault) {
   EXPECT_EQ(static_cast<int>(M::BP_FILE.getType()), 5);
   EXPECT_EQ(text(M::BP_FILE.getDefaultValue()), "");
   EXPECT_EQ(M::BP_FILE.getEnumeration(), nullptr);
-  EXPECT_EQ(text(M::BP_FILE.getDescription()),
-            "This bridge imports an XML file compliant to the Object Management Group (OMG) Unified Modeling "
-            "Language (UML) XML Metadata Interchange (XMI) file format. The bridge imports versions of the UML "
-            "2.1 metamodel and XMI 2.1 format, therefore make sure you identify the exact OMG UML XMI version "
-            "produced by your source tool.");
+  EXPECT_EQ(
+      text(M::BP_FILE.getDescription()),
+      "This bridge imports an XML file compliant to the Object Management Group (OMG) Unified Modeling "
+      "Language (UML) XML Metadata Interchange (XMI) file format. The bridge imports versions of the UML "
+      "2.1 metamodel and XMI 2.1 format, therefore make sure you identify the exact OMG UML XMI version "
+      "produced by your source tool.");
   EXPECT_EQ(text(M::BP_ROOT_PACKAGE.getIdentifier()), "BP_ROOT_PACKAGE");
   EXPECT_EQ(text(M::BP_ROOT_PACKAGE.getDisplayName()), "Top Package");
   EXPECT_EQ(static_cast<int>(M::BP_ROOT_PACKAGE.getType()), 0);
   EXPECT_EQ(text(M::BP_ROOT_PACKAGE.getDefaultValue()), "");
-  EXPECT_EQ(text(M::BP_ROOT_PACKAGE.getDescription()),
-            "This option is used for two purposes:\n\nFirst, the Repository metamodel requires that all model "
-            "elements (Classes, Associations...) belong to a Package. So whenever an Object is not explicitly "
-            "associated to a Package it is stored in a special Package and this option specifies the name of "
-            "the Package.\n\nSecond, if there is a single top level Package by that name in the Model, we mark "
-            "the Package as optional so that it will not appear in the destination Model if the destination "
-            "tool does not require all objects to be in a Package. ");
+  EXPECT_EQ(
+      text(M::BP_ROOT_PACKAGE.getDescription()),
+      "This option is used for two purposes:\n\nFirst, the Repository metamodel requires that all model "
+      "elements (Classes, Associations...) belong to a Package. So whenever an Object is not explicitly "
+      "associated to a Package it is stored in a special Package and this option specifies the name of "
+      "the Package.\n\nSecond, if there is a single top level Package by that name in the Model, we mark "
+      "the Package as optional so that it will not appear in the destination Model if the destination "
+      "tool does not require all objects to be in a Package. ");
 }
 
 TEST(KBI_UML2XMI, TheGeneralDescriptionTellsHowEachToolExportsAndWhatIsMissing) {
   const std::string description = text(M::BRIDGE_SPEC_OMGUML2XMI_IMPORT_DESCRIPTION.toString());
   const std::string opening =
-      "This bridge imports an XML file compliant to the Object Management Group (OMG) Unified Modeling Language "
-      "(UML) 2.x XML Metadata Interchange (XMI)  2.x file format.  While the OMG specification is clear on some "
+      "This bridge imports an XML file compliant to the Object Management Group (OMG) Unified Modeling "
+      "Language "
+      "(UML) 2.x XML Metadata Interchange (XMI)  2.x file format.  While the OMG specification is clear on "
+      "some "
       "metadata concepts, some concepts are not fully defined, including:";
   EXPECT_EQ(description.substr(0, opening.size()), opening);
   for (const char* piece :

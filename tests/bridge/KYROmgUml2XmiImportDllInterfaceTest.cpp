@@ -141,8 +141,8 @@ TEST(KYROmgUml2XmiImportDllInterface, BrowsingRaisesAndNamesBridgeAndOperation) 
 }
 
 TEST(KYROmgUml2XmiImportDllInterface, ARunSavesTheModelAndReturnsTrue) {
-  const TemporaryFile input(xmi(element("Package", "xmi:id='p' name='P'",
-                                        element("Class", "xmi:id='c' name='C'"))));
+  const TemporaryFile input(
+      xmi(element("Package", "xmi:id='p' name='P'", element("Class", "xmi:id='c' name='C'"))));
   const OutputFolder folder;
   EXPECT_TRUE(runOn(input.path, folder.path + "/out.json"));
   const auto model = loadStoreModel(KYRFile((folder.path + "/out.json").c_str()));
@@ -167,8 +167,8 @@ TEST(KYROmgUml2XmiImportDllInterface, AFailedRunRaisesAndLeavesNoFile) {
 }
 
 TEST(KYROmgUml2XmiImportDllInterface, OneObjectServesManyRuns) {
-  const TemporaryFile input(xmi(element("Package", "xmi:id='p' name='P'",
-                                        element("Class", "xmi:id='c' name='C'"))));
+  const TemporaryFile input(
+      xmi(element("Package", "xmi:id='p' name='P'", element("Class", "xmi:id='c' name='C'"))));
   const OutputFolder folder;
   for (int i = 0; i < 3; ++i) EXPECT_TRUE(runOn(input.path, folder.path + "/out.json"));
 }

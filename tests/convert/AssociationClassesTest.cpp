@@ -12,9 +12,9 @@
 
 namespace {
 
-const std::string classes =
-    element("Class", "xmi:id='c1' name='Customer'") + element("Class", "xmi:id='c2' name='Order'") +
-    element("Interface", "xmi:id='i' name='Face'");
+const std::string classes = element("Class", "xmi:id='c1' name='Customer'") +
+                            element("Class", "xmi:id='c2' name='Order'") +
+                            element("Interface", "xmi:id='i' name='Face'");
 
 const std::string ends =
     "<ownedEnd xmi:type='uml:Property' xmi:id='x' type='c1'/>"
@@ -107,18 +107,16 @@ TEST(AssociationClasses, RelationsToADeletedOneAreDropped) {
 }
 
 TEST(AssociationClasses, OneThatHasFewerThanTwoGoodEndsStaysAsAClass) {
-  const ImportedModel imported(
-      inPackage(element("AssociationClass", "xmi:id='ac' name='Contract'",
-                        "<ownedEnd xmi:type='uml:Property' xmi:id='x' type='c1'/>"
-                        "<ownedEnd xmi:type='uml:Property' xmi:id='y'/>")));
+  const ImportedModel imported(inPackage(element("AssociationClass", "xmi:id='ac' name='Contract'",
+                                                 "<ownedEnd xmi:type='uml:Property' xmi:id='x' type='c1'/>"
+                                                 "<ownedEnd xmi:type='uml:Property' xmi:id='y'/>")));
   EXPECT_EQ(imported.get<KYRClass>("ac").association, nullptr);
   EXPECT_TRUE(imported.all<KYRAssociation>().empty());
 }
 
 TEST(AssociationClasses, OneAtTheTopWithoutARootPackageHasNoPlaceAndItsAssociationStays) {
-  const ImportedModel imported(
-      xmi(element("Package", "xmi:id='p' name='P'", classes) +
-          element("AssociationClass", "xmi:id='ac' name='Contract'", ends)));
+  const ImportedModel imported(xmi(element("Package", "xmi:id='p' name='P'", classes) +
+                                   element("AssociationClass", "xmi:id='ac' name='Contract'", ends)));
   EXPECT_FALSE(imported.has("ac"));
   const KYRAssociation& association = imported.get<KYRAssociation>("ac_ASSOCIATION");
   EXPECT_EQ(association.associationClass, nullptr);

@@ -12,11 +12,10 @@
 
 namespace {
 
-const std::string classes = element("Class", "xmi:id='c1' name='One'") +
-                            element("Class", "xmi:id='c2' name='Two'") +
-                            element("Interface", "xmi:id='i' name='Face'") +
-                            element("PrimitiveType", "xmi:id='t' name='String'") +
-                            element("Enumeration", "xmi:id='e' name='Color'");
+const std::string classes =
+    element("Class", "xmi:id='c1' name='One'") + element("Class", "xmi:id='c2' name='Two'") +
+    element("Interface", "xmi:id='i' name='Face'") + element("PrimitiveType", "xmi:id='t' name='String'") +
+    element("Enumeration", "xmi:id='e' name='Color'");
 
 std::string end(const std::string& attributes, const std::string& content = "") {
   return "<ownedEnd xmi:type='uml:Property' " + attributes + ">" + content + "</ownedEnd>";
@@ -36,8 +35,8 @@ std::string bound(const std::string& tag, const std::string& literal, const std:
 
 // The multiplicity of an end with those bounds.
 std::string multiplicityOf(const std::string& bounds) {
-  const ImportedModel imported(
-      inPackage(association("xmi:id='a'", end("xmi:id='x' type='c1'", bounds) + end("xmi:id='y' type='c2'"))));
+  const ImportedModel imported(inPackage(
+      association("xmi:id='a'", end("xmi:id='x' type='c1'", bounds) + end("xmi:id='y' type='c2'"))));
   return text(imported.get<KYRAssociationRole>("x").multiplicity);
 }
 
@@ -46,10 +45,10 @@ std::string range(int lower, int upper) { return text(buildMultiplicity(lower, u
 }  // namespace
 
 TEST(Associations, AnAssociationTakesNameIdAndBothEnds) {
-  const ImportedModel imported(inPackage(association(
-      "xmi:id='a' name='knows'",
-      end("xmi:id='x' name='from' type='c1' isOrdered='true' visibility='private'") +
-          end("xmi:id='y' type='c2'"))));
+  const ImportedModel imported(
+      inPackage(association("xmi:id='a' name='knows'",
+                            end("xmi:id='x' name='from' type='c1' isOrdered='true' visibility='private'") +
+                                end("xmi:id='y' type='c2'"))));
   const KYRAssociation& object = imported.get<KYRAssociation>("a");
   EXPECT_EQ(imported.pathOf("a"), "P/knows");
   ASSERT_EQ(object.roles.count(), 2U);
@@ -82,15 +81,15 @@ TEST(Associations, MemberEndsGoBeforeOwnedEnds) {
 }
 
 TEST(Associations, AnAssociationWithFewerThanTwoEndsDoesNotExist) {
-  const ImportedModel imported(inPackage(association("xmi:id='a'", "") +
-                                         association("xmi:id='b'", end("xmi:id='x' type='c1'"))));
+  const ImportedModel imported(
+      inPackage(association("xmi:id='a'", "") + association("xmi:id='b'", end("xmi:id='x' type='c1'"))));
   EXPECT_TRUE(imported.all<KYRAssociation>().empty());
 }
 
 TEST(Associations, AnEndTypedByNoClassTakesTheAssociationWithIt) {
   for (const char* type : {"type='t'", "type='e'", "type='missing'", ""}) {
-    const ImportedModel imported(inPackage(association(
-        "xmi:id='a'", end("xmi:id='x' type='c1'") + end(std::string("xmi:id='y' ") + type))));
+    const ImportedModel imported(inPackage(
+        association("xmi:id='a'", end("xmi:id='x' type='c1'") + end(std::string("xmi:id='y' ") + type))));
     EXPECT_TRUE(imported.all<KYRAssociation>().empty()) << type;
     EXPECT_TRUE(imported.all<KYRAssociationRole>().empty()) << type;
     EXPECT_TRUE(imported.get<KYRClass>("c1").associationRoles.isEmpty()) << type;
@@ -154,8 +153,8 @@ TEST(Associations, BoundsMakeTheMultiplicity) {
 }
 
 TEST(Associations, ThePlainBoundsOfAnEndAreNotConsulted) {
-  const ImportedModel imported(inPackage(
-      association("xmi:id='a'", end("xmi:id='x' type='c1' lower='2' upper='3'") + end("xmi:id='y' type='c2'"))));
+  const ImportedModel imported(inPackage(association(
+      "xmi:id='a'", end("xmi:id='x' type='c1' lower='2' upper='3'") + end("xmi:id='y' type='c2'"))));
   EXPECT_EQ(text(imported.get<KYRAssociationRole>("x").multiplicity), range(0, manyMultiplicity));
 }
 
@@ -166,9 +165,9 @@ TEST(Associations, CompositionIsToldOnTheAssociationAndOnTheEnd) {
     bool isAggregate;
   } rows[] = {{"composite", true, true}, {"shared", false, true}, {"none", false, false}, {"", false, false}};
   for (const auto& row : rows) {
-    const ImportedModel imported(inPackage(
-        association("xmi:id='a'", end("xmi:id='x' type='c1' aggregation='" + std::string(row.aggregation) + "'") +
-                                      end("xmi:id='y' type='c2'"))));
+    const ImportedModel imported(inPackage(association(
+        "xmi:id='a'", end("xmi:id='x' type='c1' aggregation='" + std::string(row.aggregation) + "'") +
+                          end("xmi:id='y' type='c2'"))));
     EXPECT_EQ(imported.get<KYRAssociation>("a").isComposite, row.isComposite) << row.aggregation;
     EXPECT_EQ(imported.get<KYRAssociationRole>("x").isAggregate, row.isAggregate) << row.aggregation;
   }

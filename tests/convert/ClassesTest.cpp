@@ -38,9 +38,9 @@ using Names = std::vector<std::string>;
 }  // namespace
 
 TEST(Classes, AClassTakesNameIdAbstractnessAndVisibility) {
-  const ImportedModel imported(inPackage(
-      element("Class", "xmi:id='c' name='C' isAbstract='true' visibility='protected'") +
-      element("Class", "xmi:id='d' name='D'")));
+  const ImportedModel imported(
+      inPackage(element("Class", "xmi:id='c' name='C' isAbstract='true' visibility='protected'") +
+                element("Class", "xmi:id='d' name='D'")));
   const KYRClass& c = imported.get<KYRClass>("c");
   EXPECT_EQ(text(c.getName()), "C");
   EXPECT_TRUE(c.isAbstract);
@@ -130,10 +130,10 @@ TEST(Classes, OperationsAreNamedAndMayShareAName) {
 }
 
 TEST(Classes, ANestedClassifierProducesNothing) {
-  const ImportedModel imported(inPackage(
-      element("Class", "xmi:id='c' name='C'",
-              "<nestedClassifier xmi:type='uml:Class' xmi:id='n' name='N'>" + property("xmi:id='a' name='A'") +
-                  "</nestedClassifier>")));
+  const ImportedModel imported(
+      inPackage(element("Class", "xmi:id='c' name='C'",
+                        "<nestedClassifier xmi:type='uml:Class' xmi:id='n' name='N'>" +
+                            property("xmi:id='a' name='A'") + "</nestedClassifier>")));
   EXPECT_FALSE(imported.has("n"));
   EXPECT_FALSE(imported.has("a"));
 }

@@ -36,10 +36,10 @@ TEST(ConversionPhases, ALooseAssociationMakesARootPackageThatTakesThePackages) {
 }
 
 TEST(ConversionPhases, OtherLooseElementsMakeNoRootPackage) {
-  const ImportedModel imported(xmi(
-      packageWithClass + element("Interface", "xmi:id='i' name='I'") +
-      element("Enumeration", "xmi:id='e' name='E'") + element("AssociationClass", "xmi:id='ac' name='AC'") +
-      element("Dependency", "xmi:id='d' client='c' supplier='c'")));
+  const ImportedModel imported(xmi(packageWithClass + element("Interface", "xmi:id='i' name='I'") +
+                                   element("Enumeration", "xmi:id='e' name='E'") +
+                                   element("AssociationClass", "xmi:id='ac' name='AC'") +
+                                   element("Dependency", "xmi:id='d' client='c' supplier='c'")));
   EXPECT_EQ(topPackages(imported.model), Names{"P"});
   EXPECT_FALSE(imported.has("i"));
   EXPECT_FALSE(imported.has("ac"));
@@ -84,9 +84,9 @@ TEST(ConversionPhases, ANamedRootPackageThatIsThereIsJoinedAndKeepsItsMark) {
 
 TEST(ConversionPhases, APackageThatStaysEmptyIsNotInTheResult) {
   const ImportedModel imported(
-      xmi(packageWithClass + element("Package", "xmi:id='e' name='E'",
-                                     element("Package", "xmi:id='f' name='F'",
-                                             element("Class", "xmi:id='nameless'")))),
+      xmi(packageWithClass +
+          element("Package", "xmi:id='e' name='E'",
+                  element("Package", "xmi:id='f' name='F'", element("Class", "xmi:id='nameless'")))),
       "Mine");
   EXPECT_FALSE(imported.has("e"));
   EXPECT_FALSE(imported.has("f"));
@@ -96,9 +96,10 @@ TEST(ConversionPhases, APackageThatStaysEmptyIsNotInTheResult) {
 }
 
 TEST(ConversionPhases, TheStoreModelTakesNameAndIdOfTheModel) {
-  const ImportedModel imported(xmi("<ownedComment xmi:type='uml:Comment' xmi:id='k' annotatedElement='model'"
-                                   " body='About it'/>" +
-                                   packageWithClass));
+  const ImportedModel imported(
+      xmi("<ownedComment xmi:type='uml:Comment' xmi:id='k' annotatedElement='model'"
+          " body='About it'/>" +
+          packageWithClass));
   EXPECT_EQ(text(imported.model.getName()), "Model");
   EXPECT_EQ(text(imported.model.sourceId), "model");
   EXPECT_EQ(text(imported.model.description), "About it");

@@ -12,9 +12,9 @@
 namespace {
 
 std::string inClass(const std::string& features) {
-  return xmi(element("Package", "xmi:id='p' name='P'",
-                     element("Class", "xmi:id='c' name='C'", features) +
-                         element("Class", "xmi:id='t' name='T'")));
+  return xmi(
+      element("Package", "xmi:id='p' name='P'",
+              element("Class", "xmi:id='c' name='C'", features) + element("Class", "xmi:id='t' name='T'")));
 }
 
 std::string operationWith(const std::string& parameters) {
@@ -102,8 +102,8 @@ TEST_F(Features, OnlyTwoKindsOfValuesHaveAText) {
   expression.symbol = "e";
   EXPECT_EQ(text(bridge.valueSpecificationText(&string)), "s");
   EXPECT_EQ(text(bridge.valueSpecificationText(&opaque)), "o");
-  for (const UMLValueSpecification* other :
-       std::initializer_list<const UMLValueSpecification*>{&integer, &boolean, &instance, &natural, &expression}) {
+  for (const UMLValueSpecification* other : std::initializer_list<const UMLValueSpecification*>{
+           &integer, &boolean, &instance, &natural, &expression}) {
     EXPECT_EQ(text(bridge.valueSpecificationText(other)), "") << other->getKind();
   }
 }
@@ -129,11 +129,11 @@ TEST_F(Features, FeaturesWaitForTheirTypesInOrderOfMakingAndArgumentsBeforeTheir
 TEST(FeaturesOfFiles, DirectionsAreMappedAndAnAbsentOneIsNotSet) {
   const ImportedModel imported(operationWith(
       parameter("xmi:id='p0' name='a'") + parameter("xmi:id='p1' name='b' direction='in'") +
-      parameter("xmi:id='p2' name='c' direction='inout'") + parameter("xmi:id='p3' name='d' direction='out'") +
-      parameter("xmi:id='p4' name='e' direction='return'") + parameter("xmi:id='p5' name='d' direction='in'") +
-      parameter("xmi:id='p6' direction='in'")));
-  EXPECT_EQ(argumentsOf(imported),
-            (Rows{"0 a 0", "1 b 1", "2 c 3", "3 d 2", "4 e 4", "5 d 1", "6  1"}));
+      parameter("xmi:id='p2' name='c' direction='inout'") +
+      parameter("xmi:id='p3' name='d' direction='out'") +
+      parameter("xmi:id='p4' name='e' direction='return'") +
+      parameter("xmi:id='p5' name='d' direction='in'") + parameter("xmi:id='p6' direction='in'")));
+  EXPECT_EQ(argumentsOf(imported), (Rows{"0 a 0", "1 b 1", "2 c 3", "3 d 2", "4 e 4", "5 d 1", "6  1"}));
 }
 
 TEST(FeaturesOfFiles, AReturnParameterIsNamelessOrCalledReturnOrTyped) {
@@ -154,7 +154,8 @@ TEST(FeaturesOfFiles, AReturnParameterIsNamelessOrCalledReturnOrTyped) {
   for (const auto& row : rows) {
     const ImportedModel imported(operationWith(parameter(std::string("xmi:id='x' ") + row.attributes)));
     EXPECT_EQ(argumentsOf(imported).size(), row.isArgument ? 1U : 0U) << row.attributes;
-    EXPECT_EQ(imported.get<KYROperation>("o").returnType, nullptr) << row.attributes;
+    const bool isTyped = std::string(row.attributes).find("type=") != std::string::npos;
+    EXPECT_EQ(imported.get<KYROperation>("o").returnType != nullptr, isTyped) << row.attributes;
   }
 }
 
@@ -170,11 +171,11 @@ TEST_F(Features, TheTypeOfTheLastTypedReturnParameterIsThatOfTheOperation) {
     one.direction = &back;
     element.UMLOperation::addOwnedParameter(&one);
   }
-  bridge.convertOperation(&element);
+  const auto first = bridge.convertOperation(&element);
   EXPECT_EQ(element.type, static_cast<UMLType*>(&ofFile));  // none is typed
   parameters[0].type = &ofFirst;
   parameters[1].type = &ofSecond;
-  bridge.convertOperation(&element);
+  const auto second = bridge.convertOperation(&element);
   EXPECT_EQ(element.type, static_cast<UMLType*>(&ofSecond));
 }
 

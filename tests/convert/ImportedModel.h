@@ -22,8 +22,8 @@ inline std::string xmi(const std::string& elements, const std::string& modelName
                        const std::string& documentation = "") {
   return "<xmi:XMI xmi:version='2.1' xmlns:xmi='http://schema.omg.org/spec/XMI/2.1'"
          " xmlns:uml='http://schema.omg.org/spec/UML/2.1'>" +
-         documentation + "<uml:Model xmi:type='uml:Model' xmi:id='model' name='" + modelName + "'>" + elements +
-         "</uml:Model></xmi:XMI>";
+         documentation + "<uml:Model xmi:type='uml:Model' xmi:id='model' name='" + modelName + "'>" +
+         elements + "</uml:Model></xmi:XMI>";
 }
 
 /// A packaged element of some type; `attributes` holds its id and name and whatever else it has.

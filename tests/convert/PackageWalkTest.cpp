@@ -60,10 +60,9 @@ TEST(PackageWalk, WithoutPackagedElementsTheOwnedMembersAreWalked) {
 }
 
 TEST(PackageWalk, PackagedElementsHideOwnedMembers) {
-  const ImportedModel imported(
-      xmi(element("Package", "xmi:id='p' name='P'",
-                  element("Class", "xmi:id='c' name='C'") +
-                      "<ownedMember xmi:type='uml:Class' xmi:id='d' name='D'/>")));
+  const ImportedModel imported(xmi(element(
+      "Package", "xmi:id='p' name='P'",
+      element("Class", "xmi:id='c' name='C'") + "<ownedMember xmi:type='uml:Class' xmi:id='d' name='D'/>")));
   EXPECT_TRUE(imported.has("c"));
   EXPECT_FALSE(imported.has("d"));
 }
@@ -78,10 +77,10 @@ TEST(PackageWalk, NamelessClassesAndInterfacesAreSkippedAndNamelessPackagesAreNo
 }
 
 TEST(PackageWalk, ElementsOfOneNameInAPackageAreToldApart) {
-  const ImportedModel imported(xmi(element(
-      "Package", "xmi:id='p' name='P'",
-      element("Package", "xmi:id='q' name='X'", element("Class", "xmi:id='y' name='Y'")) +
-          element("Class", "xmi:id='c1' name='X'") + element("Interface", "xmi:id='i' name='X'"))));
+  const ImportedModel imported(xmi(
+      element("Package", "xmi:id='p' name='P'",
+              element("Package", "xmi:id='q' name='X'", element("Class", "xmi:id='y' name='Y'")) +
+                  element("Class", "xmi:id='c1' name='X'") + element("Interface", "xmi:id='i' name='X'"))));
   EXPECT_EQ(namesIn(imported.get<KYRDesignPackage>("p")), (Names{"X", "X/1", "X/2"}));
 }
 
@@ -99,9 +98,9 @@ TEST(PackageWalk, WhatHasNoCounterpartIsPassedOverInSilence) {
 }
 
 TEST(PackageWalk, AnElementListedByTwoPackagesIsConvertedTwice) {
-  const ImportedModel imported(xmi(
-      element("Package", "xmi:id='p' name='P'", element("Class", "xmi:id='c' name='C'")) +
-      element("Package", "xmi:id='q' name='Q'", element("Class", "xmi:id='d' name='D'") + listed("c"))));
+  const ImportedModel imported(
+      xmi(element("Package", "xmi:id='p' name='P'", element("Class", "xmi:id='c' name='C'")) +
+          element("Package", "xmi:id='q' name='Q'", element("Class", "xmi:id='d' name='D'") + listed("c"))));
   EXPECT_EQ(imported.countOf("c"), 2U);
   EXPECT_EQ(namesIn(imported.get<KYRDesignPackage>("q")).size(), 2U);
 }
@@ -110,8 +109,7 @@ TEST(PackageWalk, PackagesThatHoldEachOtherArePassedOverWhenMetAgain) {
   const ImportedModel imported(
       xmi(element("Package", "xmi:id='p' name='P'",
                   element("Class", "xmi:id='c' name='C'") + listed("q") + listed("p")) +
-          element("Package", "xmi:id='q' name='Q'",
-                  element("Class", "xmi:id='d' name='D'") + listed("p"))));
+          element("Package", "xmi:id='q' name='Q'", element("Class", "xmi:id='d' name='D'") + listed("p"))));
   // P holds Q, which would hold P again; and the other way round.
   EXPECT_EQ(imported.countOf("p"), 2U);
   EXPECT_EQ(imported.countOf("q"), 2U);

@@ -153,10 +153,9 @@ TEST(Relations, AnAssociationClassRealizesNothing) {
 }
 
 TEST(Relations, ADependencyGoesToThePackageOfItsFirstSupplier) {
-  const ImportedModel imported(
-      xmi(element("Package", "xmi:id='p' name='P'", three) +
-          element("Dependency", "xmi:id='d' name='D' client='c2'",
-                  "<supplier xmi:idref='c1'/><supplier xmi:idref='c2'/>")));
+  const ImportedModel imported(xmi(element("Package", "xmi:id='p' name='P'", three) +
+                                   element("Dependency", "xmi:id='d' name='D' client='c2'",
+                                           "<supplier xmi:idref='c1'/><supplier xmi:idref='c2'/>")));
   const KYRDependency& dependency = imported.get<KYRDependency>("d");
   EXPECT_EQ(dependency.supplierClass, &imported.get<KYRClass>("c1"));
   EXPECT_EQ(dependency.clientClass, &imported.get<KYRClass>("c2"));
@@ -167,8 +166,7 @@ TEST(Relations, ADependencyGoesToThePackageOfItsFirstSupplier) {
 TEST(Relations, ADependencyWithAnInterfaceOrAMissingEndIsDropped) {
   for (const char* ends : {"supplier='i' client='c1'", "supplier='c1' client='i'", "supplier='c1'",
                            "client='c1'", "supplier='missing' client='c1'", ""}) {
-    const ImportedModel imported(
-        inPackage(three + element("Dependency", std::string("xmi:id='d' ") + ends)));
+    const ImportedModel imported(inPackage(three + element("Dependency", std::string("xmi:id='d' ") + ends)));
     EXPECT_TRUE(imported.all<KYRDependency>().empty()) << ends;
   }
 }

@@ -23,7 +23,7 @@ struct Indexed {
   explicit Indexed(const std::string& xml)
       : reading(xml), file(xml), dom(&reading.log), root(dom.parseFile(file.file())) {
     document.parse(dom, file.file());
-    index = std::make_unique<ElementIndex>(document.document());
+    index = std::make_unique<ElementIndex>(document.document(), reading.parser.getObjects().getCount());
   }
   std::string tagFor(const char* id) {
     const DocumentElement element = index->find(*reading.find(id));

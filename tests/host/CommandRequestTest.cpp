@@ -1,3 +1,4 @@
+// From words to settings.
 #include "host/CommandRequest.h"
 
 #include <gtest/gtest.h>

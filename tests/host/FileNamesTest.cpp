@@ -1,3 +1,4 @@
+// Where the model goes, and which paths are one file.
 #include "host/FileNames.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// The lines of the log, in both forms.
 #include "host/HostLog.h"
 
 #include <gtest/gtest.h>

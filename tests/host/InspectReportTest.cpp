@@ -1,3 +1,4 @@
+// What the report of an inspection counts.
 #include "host/InspectReport.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// The JSON that the command writes.
 #include "host/JsonOut.h"
 
 #include <gtest/gtest.h>

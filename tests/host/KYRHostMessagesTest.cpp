@@ -1,9 +1,12 @@
+// The catalogue of the command: codes that users know, texts, and their page in docs/.
 #include "host/KYRHostMessages.h"
 
 #include <gtest/gtest.h>
 
+#include <fstream>
 #include <map>
 #include <set>
+#include <sstream>
 #include <string>
 
 #include "foundation/KYRVector.h"
@@ -34,6 +37,17 @@ TEST(KYRHostMessages, CodesStayWhatUsersKnow) {
     if (dynamic_cast<const KYRMessageLiteral*>(literal) != nullptr) codes.insert(identifier);
   }
   EXPECT_EQ(codes, expected);
+}
+
+TEST(KYRHostMessages, TheListOfMessagesInTheDocumentationIsWhole) {
+  std::ifstream file(KYR_SOURCE_DIR "/docs/command-line.md");
+  std::ostringstream page;
+  page << file.rdbuf();
+  for (const auto& [identifier, literal] : allLiterals()) {
+    if (dynamic_cast<const KYRMessageLiteral*>(literal) == nullptr) continue;
+    const std::string row = "| `" + identifier + "` | " + literal->getText().getCharacters() + " |\n";
+    EXPECT_NE(page.str().find(row), std::string::npos) << row;
+  }
 }
 
 TEST(KYRHostMessages, HoldsLabelsAndHelpToo) {

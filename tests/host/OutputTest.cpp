@@ -1,3 +1,4 @@
+// Writing to readers that are slow, full or gone.
 #include "host/Output.h"
 
 #include <fcntl.h>

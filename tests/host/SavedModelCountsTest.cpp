@@ -1,3 +1,4 @@
+// Counting a saved model without parsing it.
 #include "host/SavedModelCounts.h"
 
 #include <gtest/gtest.h>

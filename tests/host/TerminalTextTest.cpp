@@ -1,3 +1,4 @@
+// Texts from files on their way to a terminal, hostile ones above all.
 #include "host/TerminalText.h"
 
 #include <gtest/gtest.h>

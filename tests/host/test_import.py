@@ -4,11 +4,13 @@ import json
 import os
 import pathlib
 import re
+import resource
+import signal
 import stat
 import subprocess
 import unittest
 
-from support import (BROKEN, DATA, DONE, FAILED, NO_MODEL, SAMPLES, SMALL, CommandTest, model_text,
+from support import (BROKEN, DONE, FAILED, KYR, NO_MODEL, SAMPLES, SMALL, CommandTest, model_text,
                      saved_objects)
 
 TIME = "2026-01-01T00:00:00Z"
@@ -88,8 +90,6 @@ class Output(CommandTest):
 
     def test_a_full_disk_leaves_nothing(self):
         def limit_file_size():
-            import resource
-            import signal
             signal.signal(signal.SIGXFSZ, signal.SIG_IGN)
             resource.setrlimit(resource.RLIMIT_FSIZE, (100, 100))
 
@@ -178,6 +178,20 @@ class Failure(CommandTest):
         self.assertEqual(json.loads(result.error_lines[-1]),
                          {"level": "FATAL", "code": "KBI_UML2XMI_F0008",
                           "text": "This file may not be a valid UML2 file."})
+
+
+class Memory(CommandTest):
+    def test_too_little_of_it_is_an_error_like_others(self):
+        if b"__asan_init" in pathlib.Path(KYR).read_bytes():
+            self.skipTest("a sanitizer needs all the address space there is")
+        megabyte = 1024 * 1024
+        content = f'<packagedElement xmi:type="uml:Class" xmi:id="c" name="{"n" * 40 * megabyte}"/>'
+        self.write("shop.xmi", model_text(content=content))
+        for command in ("import", "inspect"):
+            result = self.kyr(command, "shop.xmi", preexec_fn=lambda: resource.setrlimit(
+                resource.RLIMIT_AS, (40 * megabyte, 40 * megabyte)))
+            self.assertFails(result, FAILED, "[KYRHOST_F0014] There is not enough memory")
+        self.assertEqual(self.names(), ["shop.xmi"])
 
 
 class Encoding(CommandTest):
@@ -293,7 +307,7 @@ class Streams(CommandTest):
                 self.assertNotIn("KYRHOST", result.errors)
 
     def test_lost_log_lines_do_not_stop_an_import(self):
-        process = subprocess.Popen([os.environ["KYR"], "import", str(SMALL)], cwd=self.folder,
+        process = subprocess.Popen([KYR, "import", str(SMALL)], cwd=self.folder,
                                    stdout=subprocess.PIPE, stderr=subprocess.PIPE)
         process.stderr.close()
         process.stdout.read()
@@ -302,8 +316,8 @@ class Streams(CommandTest):
         self.assertEqual(self.names(), ["small.json"])
 
     def test_closed_standard_files_do_not_end_up_in_the_model(self):
-        command = f'"$0" import "$1" -o out.json 0<&- 1>&- 2>&-'
-        code = subprocess.run(["sh", "-c", command, os.environ["KYR"], str(SMALL)], cwd=self.folder,
+        command = '"$0" import "$1" -o out.json 0<&- 1>&- 2>&-'
+        code = subprocess.run(["sh", "-c", command, KYR, str(SMALL)], cwd=self.folder,
                               check=False).returncode
         self.assertEqual(code, DONE)
         self.assertEqual(json.loads((self.folder / "out.json").read_bytes())["model"]["name"], "Shop")

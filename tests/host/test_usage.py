@@ -2,6 +2,8 @@
 
 import json
 import os
+import pathlib
+import re
 import unittest
 
 from support import DONE, SMALL, WRONG_USAGE, CommandTest
@@ -86,6 +88,14 @@ class Help(CommandTest):
             output = self.kyr(command, "--help").output
             for name in names:
                 self.assertIn(name, output)
+
+    def test_the_documentation_has_every_option(self):
+        page = (pathlib.Path(__file__).parents[2] / "docs" / "command-line.md").read_text(encoding="utf-8")
+        for command in ("import", "info", "inspect"):
+            section = page.split(f"## kyr {command}\n")[1].split("\n## ")[0]
+            for option in re.findall(r"--[a-z-]+", self.kyr(command, "--help").output.split("Examples")[0]):
+                if option != "--help":
+                    self.assertIn(option, section)
 
     def test_the_list_of_commands_has_one_line_for_each(self):
         lines = self.kyr("--help").output.splitlines()

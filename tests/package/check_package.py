@@ -5,7 +5,7 @@ The installed `kyr` imports a sample with the installed plug-in, also after the 
 moved; a small program finds the package by find_package(kyr), loads the saved model and saves it
 again with the same bytes.
 
-    check_package.py CMAKE BUILD_FOLDER SOURCE_FOLDER COMPILER COMPILER_FLAGS
+    check_package.py CMAKE BUILD_FOLDER SOURCE_FOLDER COMPILER [COMPILER_FLAG...]
 """
 
 import os
@@ -26,7 +26,7 @@ def expect(condition, message):
         sys.exit(message)
 
 
-def main(cmake, build, source, compiler, flags):
+def main(cmake, build, source, compiler, *flags):
     with tempfile.TemporaryDirectory() as scratch:
         first = os.path.join(scratch, "first")
         run(cmake, "--install", build, "--prefix", first)
@@ -42,7 +42,7 @@ def main(cmake, build, source, compiler, flags):
         consumer = os.path.join(scratch, "consumer")
         run(
             cmake, "-S", os.path.join(source, "tests", "package", "consumer"), "-B", consumer,
-            f"-DCMAKE_PREFIX_PATH={prefix}", f"-DCMAKE_CXX_COMPILER={compiler}", f"-DCMAKE_CXX_FLAGS={flags}",
+            f"-DCMAKE_PREFIX_PATH={prefix}", f"-DCMAKE_CXX_COMPILER={compiler}", f"-DCMAKE_CXX_FLAGS={' '.join(flags)}",
         )
         run(cmake, "--build", consumer)
         again = os.path.join(scratch, "again.json")
@@ -57,4 +57,4 @@ def main(cmake, build, source, compiler, flags):
 
 
 if __name__ == "__main__":
-    main(*sys.argv[1:6])
+    main(*sys.argv[1:])

@@ -1,6 +1,9 @@
 // Two classes of a shop, related in every way that the repository knows.
 #include "tests/repository/FullModel.h"
 
+#include <type_traits>
+#include <vector>
+
 #include "repository/bridgelib/KYRBridgeLib.h"
 #include "repository/model/KYRArgument.h"
 #include "repository/model/KYRAssociation.h"
@@ -24,6 +27,7 @@
 #include "repository/model/KYRPropertyType.h"
 #include "repository/model/KYRRealization.h"
 #include "repository/model/KYRRelationshipProjection.h"
+#include "repository/model/KYRTraversalOperation.h"
 #include "repository/model/KYRTypeValue.h"
 
 namespace {
@@ -85,6 +89,10 @@ class Builder {
   void fillTypes() {
     base_ = make<KYRConcreteType>("VARCHAR");
     model_->addType(base_);
+    base_->dataType = "SQL_VARCHAR";
+    base_->nativeDataType = "varchar";
+    base_->length = 255;
+    base_->scale = 1;
     derived_ = make<KYRDerivedType>("colour");
     model_->addType(derived_);
     derived_->dataType = "SQL_VARCHAR";
@@ -111,7 +119,10 @@ class Builder {
     package_->addNamespaceElementUniqueName(inner_, '/');
     schema_ = make<KYRDatabaseSchema>("SCHEMA");
     model_->addDataPackage(schema_);
-    model_->addDataPackage(make<KYRDataPackage>("Files"));
+    schema_->addNamespaceElementUniqueName(make<KYRRealization>("in the schema"), '/');
+    auto* files = make<KYRDataPackage>("Files");
+    model_->addDataPackage(files);
+    files->addNamespaceElementUniqueName(make<KYRDependency>("in the files"), '/');
   }
 
   KYRClass* addClass(const char* name) {
@@ -179,8 +190,12 @@ class Builder {
   void fillOtherRelations() {
     generalization_ = make<KYRGeneralization>("kinds");
     package_->addNamespaceElementUniqueName(generalization_, '/');
-    getSupertypeGeneralizationRole(generalization_, order_, true);
-    getSubtypeGeneralizationRole(generalization_, item_, true)->setName("sub");
+    auto* super = make<KYRGeneralizationRole>("super");
+    generalization_->addSupertypeRole(super);
+    super->addAssociatedClass(order_);
+    auto* sub = make<KYRGeneralizationRole>("sub");
+    generalization_->addSubtypeRole(sub);
+    sub->addAssociatedClass(item_);
     auto* dependency = make<KYRDependency>("uses");
     package_->addNamespaceElementUniqueName(dependency, '/');
     dependency->addClientClass(item_);
@@ -237,23 +252,17 @@ class Builder {
     }
   }
 
-  // A note and property values on every object that can have them.
+  // A note and property values on every element, and a schema for all that can be in one.
   void decorate() {
-    KYRElement* const elements[] = {model_.get(),
-                                    base_,
-                                    derived_,
-                                    classType_,
-                                    package_,
-                                    order_,
-                                    item_,
-                                    orderId_,
-                                    association_,
-                                    association_->roles[0],
-                                    generalization_,
-                                    schema_,
-                                    order_->operations[0],
-                                    order_->keys[0]};
-    for (KYRElement* element : elements) {
+    class Elements : public KYRTraversalOperation {
+     public:
+      void visit(KYRObject& object) override {
+        if (auto* element = dynamic_cast<KYRElement*>(&object)) all.push_back(element);
+      }
+      std::vector<KYRElement*> all;
+    } elements;
+    model_->depthTraversal(elements);
+    for (KYRElement* element : elements.all) {
       auto* note = make<KYRNote>("note");
       note->noteText = "Text of the note";
       element->addNote(note);
@@ -264,6 +273,11 @@ class Builder {
         type->description = "A property";
         setPropertyValue(type, KYRString("value of ") + name, element);
       }
+      auto* inNamespace = dynamic_cast<KYRNamespaceElement*>(element);
+      if (inNamespace == nullptr || inNamespace->getDataPackage() != nullptr) continue;
+      auto* own = make<KYRDatabaseSchema>((KYRString("SCHEMA") + KYRString(count_)).getCharacters());
+      model_->addDataPackage(own);
+      inNamespace->addDataPackage(own);
     }
   }
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
 #include <memory>
 #include <random>
@@ -65,6 +66,7 @@ TEST(KYRNameIndex, ManyOfOneNameCostNoMoreThanManyNames) {
       objects.push_back(note(isOneName ? "same" : std::to_string(i)));
       index.add(objects.back().get());
     }
+    std::shuffle(objects.begin(), objects.end(), std::mt19937(1));
     for (const auto& object : objects) {
       ASSERT_NE(index.find(object->getName().view()), nullptr);
       index.remove(object.get());

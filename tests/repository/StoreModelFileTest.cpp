@@ -7,11 +7,7 @@
 
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <functional>
-#include <sstream>
 
-#include "foundation/KYRException.h"
 #include "repository/bridgelib/KYRBridgeLib.h"
 #include "repository/model/KYRArgument.h"
 #include "repository/model/KYRAssociation.h"
@@ -31,45 +27,15 @@
 #include "repository/model/KYRPropertyValue.h"
 #include "repository/model/KYRTypeValue.h"
 #include "tests/repository/FullModel.h"
+#include "tests/repository/ModelFolder.h"
 
 namespace {
+
+class StoreModelFile : public ModelFolder {};
 
 using testing::EndsWith;
 using testing::HasSubstr;
 using testing::StartsWith;
-
-// A folder of its own that goes with the test.
-class StoreModelFile : public testing::Test {
- protected:
-  StoreModelFile() {
-    char name[] = "/tmp/kyr-model-XXXXXX";
-    folder_ = mkdtemp(name);
-  }
-  ~StoreModelFile() override { std::filesystem::remove_all(folder_); }
-
-  std::string path(const char* name = "model.json") const { return folder_ + "/" + name; }
-  KYRFile file(const char* name = "model.json") const { return KYRFile(path(name).c_str()); }
-  static std::string read(const std::string& name) {
-    std::ifstream in(name, std::ios::binary);
-    std::stringstream text;
-    text << in.rdbuf();
-    return text.str();
-  }
-  std::string content(const char* name = "model.json") const { return read(path(name)); }
-  void write(const std::string& text, const char* name = "model.json") const {
-    std::ofstream(path(name), std::ios::binary) << text;
-  }
-  std::string save(const KYRStoreModel& model) const {
-    saveStoreModelFile(file(), model);
-    return content();
-  }
-  std::size_t filesInFolder() const {
-    const std::filesystem::directory_iterator all(folder_);
-    return static_cast<std::size_t>(std::distance(begin(all), end(all)));
-  }
-
-  std::string folder_;
-};
 
 TEST_F(StoreModelFile, AModelOfEveryClassAndFieldComesBackByteForByte) {
   const auto model = makeFullModel();
@@ -246,15 +212,6 @@ TEST_F(StoreModelFile, ALinkIsFollowed) {
   EXPECT_THAT(content("real.json"), StartsWith("{\"format\""));
 }
 
-std::string failureOf(const std::function<void()>& operation) {
-  try {
-    operation();
-  } catch (const KYRException& exception) {
-    return exception.getMessage().getCharacters();
-  }
-  return "nothing raised";
-}
-
 TEST_F(StoreModelFile, ATargetThatIsNoFileIsRefused) {
   const KYRStoreModel model;
   EXPECT_EQ(failureOf([&] { saveStoreModelFile(KYRFile(folder_.c_str()), model); }),
@@ -277,154 +234,6 @@ TEST_F(StoreModelFile, WhatCannotBeReadIsRefusedWithPathAndReason) {
             "[KYRSTD_F0145] The model '" + folder_ + "' cannot be loaded: it is not a regular file");
   ASSERT_EQ(mkfifo(path("fifo").c_str(), 0600), 0);
   EXPECT_THAT(failureOf([&] { loadStoreModel(file("fifo")); }), HasSubstr("it is not a regular file"));
-}
-
-TEST_F(StoreModelFile, AFileCutAnywhereIsRefused) {
-  const std::string whole = save(*makeFullModel());
-  for (std::size_t length = 0; length + 1 < whole.size(); length += 37) {
-    write(whole.substr(0, length));
-    EXPECT_THROW(loadStoreModel(file()), KYRException) << "cut at " << length;
-  }
-}
-
-TEST_F(StoreModelFile, BytesBehindTheDocumentAreRefused) {
-  const std::string whole = save(KYRStoreModel());
-  for (const std::string& tail : {std::string("x"), std::string("{}"), std::string("\0junk", 5)}) {
-    write(whole + tail);
-    EXPECT_THAT(failureOf([&] { loadStoreModel(file()); }), HasSubstr("KYRSTD_F0131"));
-  }
-}
-
-// A document with `members` in its model, and what is said of it.
-struct Damage {
-  const char* text;
-  const char* message;
-};
-
-TEST_F(StoreModelFile, DamagedDocumentsAreRefusedWithTheReason) {
-  const std::string head = "{\"format\":\"kyr-store-model\",\"version\":1,\"designLevel\":0,\"storeType\":0,";
-  const std::string inModel = head + "\"origins\":[],\"model\":{\"id\":1,\"class\":\"KYRStoreModel\",";
-  const Damage head_[] = {
-      {"", "F0131"},
-      {"{}", "the member 'format' is missing"},
-      {"[]", "this is not a saved model"},
-      {"5", "this is not a saved model"},
-      {"{\"version\":1}", "this is not a saved model"},
-      {"{\"format\":\"other\"}", "this is not a saved model"},
-      {"{\"format\":[]}", "the value of 'format'"},
-      {"{\"format\":\"kyr-store-model\",\"version\":2}", "the version 2 of the format is not known"},
-      {"{\"format\":\"kyr-store-model\",\"designLevel\":1}", "the member 'version' is missing"},
-      {"{\"format\":\"kyr-store-model\",\"version\":1}", "the member 'designLevel' is missing"},
-      {"{\"format\":\"kyr-store-model\",\"version\":1,\"version\":1}",
-       "the member 'version' stands here twice"},
-      {"{\"format\":\"kyr-store-model\",\"version\":1,\"designLevel\":2}", "the value of 'designLevel'"},
-      {"{\"format\":\"kyr-store-model\",\"version\":1,\"storeType\":\"3\"}", "the value of 'storeType'"},
-      {"{\"format\":\"kyr-store-model\",\"version\":1,\"extra\":1}", "there can be no member 'extra' here"},
-      {"{\"format\":\"kyr-store-model\",\"version\":1,\"origins\":[1]}", "the value of 'origins'"},
-      {"{\"format\":\"kyr-store-model\",\"version\":1,\"origins\":[{\"tool\":1}]}", "no member 'tool'"},
-      {"{\"format\":\"kyr-store-model\",\"version\":1,\"origins\":[{\"originCode\":\"346\"}]}",
-       "the value of 'originCode'"},
-      {"{\"format\":\"kyr-store-model\",\"version\":1,\"model\":[]}", "the value of 'model'"},
-      {"{\"format\":\"kyr-store-model\",\"version\":1,\"model\":{}}", "the member 'id' is missing"},
-      {"{\"format\":\"kyr-store-model\",\"version\":1,\"model\":{\"class\":\"KYRStoreModel\"}}",
-       "the member 'id' is missing"},
-      {"{\"format\":\"kyr-store-model\",\"version\":1,\"model\":{\"id\":0}}", "'id' is not an id"},
-      {"{\"format\":\"kyr-store-model\",\"version\":1,\"model\":{\"id\":4294967296}}", "'id' is not an id"},
-      {"{\"format\":\"kyr-store-model\",\"version\":1,\"model\":{\"id\":1}}",
-       "the member 'class' is missing"},
-      {"{\"format\":\"kyr-store-model\",\"version\":1,\"model\":{\"id\":1,\"name\":\"x\"}}",
-       "the member 'class' is missing"},
-      {"{\"format\":\"kyr-store-model\",\"version\":1,\"model\":{\"id\":1,\"class\":\"KYRClass\"}}",
-       "'model' cannot hold a KYRClass"},
-  };
-  for (const Damage& damage : head_) {
-    write(damage.text);
-    EXPECT_THAT(failureOf([&] { loadStoreModel(file()); }), HasSubstr(damage.message)) << damage.text;
-  }
-  const Damage inside[] = {
-      {"\"nmae\":\"x\"}}", "there can be no member 'nmae' here"},
-      {"\"name\":1}}", "the value of 'name'"},
-      {"\"name\":null}}", "the value of 'name'"},
-      {"\"name\":{}}}", "the value of 'name'"},
-      {"\"name\":[]}}", "the value of 'name'"},
-      {"\"name\":\"a\",\"name\":\"b\"}}", "the member 'name' stands here twice"},
-      {"\"types\":{}}}", "the value of 'types'"},
-      {"\"types\":[1]}}", "the value of 'types'"},
-      {"\"types\":[[]]}}", "the value of 'types'"},
-      {"\"types\":[{\"id\":2,\"class\":\"KYRClass\"}]}}", "'types' cannot hold a KYRClass"},
-      {"\"types\":[{\"id\":2,\"class\":\"KYRType\"}]}}", "there is no class 'KYRType'"},
-      {"\"types\":[{\"id\":2,\"class\":\"KYRStoreModel\"}]}}", "'types' cannot hold a KYRStoreModel"},
-      {"\"types\":[{\"id\":1,\"class\":\"KYRClassType\"}]}}", "the id 1 stands here a second time"},
-      {"\"types\":[{\"id\":9,\"class\":\"KYRClassType\"},{\"id\":9,\"class\":\"KYRClassType\"}]}}",
-       "the id 9 stands here a second time"},
-      {"\"types\":[{\"id\":2,\"class\":\"KYRConcreteType\",\"length\":2147483648}]}}",
-       "the value of 'length'"},
-      {"\"types\":[{\"id\":2,\"class\":\"KYRConcreteType\",\"length\":1.5}]}}", "the value of 'length'"},
-      {"\"types\":[{\"id\":2,\"class\":\"KYRConcreteType\",\"length\":18446744073709551615}]}}",
-       "the value of 'length'"},
-      {"\"types\":[{\"id\":2,\"class\":\"KYRDerivedType\",\"userDefined\":1}]}}",
-       "the value of 'userDefined'"},
-      {"\"types\":[{\"id\":2,\"class\":\"KYRDerivedType\",\"baseConcreteType\":7}]}}",
-       "no object has the id 7"},
-      {"\"types\":[{\"id\":2,\"class\":\"KYRDerivedType\",\"baseConcreteType\":1}]}}",
-       "'baseConcreteType' cannot refer to the object with the id 1"},
-      {"\"types\":[{\"id\":2,\"class\":\"KYRDerivedType\",\"name\":\"T\",\"baseConcreteType\":2}]}}",
-       "the type 'T' rests on itself over other types"},
-      {"\"types\":[{\"id\":2,\"class\":\"KYRDerivedType\",\"name\":\"T\",\"baseConcreteType\":3},"
-       "{\"id\":3,\"class\":\"KYRDerivedType\",\"name\":\"U\",\"baseConcreteType\":2}]}}",
-       "the type 'T' rests on itself over other types"},
-      {"\"propertyTypes\":[{\"id\":2,\"class\":\"KYRPropertyType\",\"elementType\":\"KYRClas\"}]}}",
-       "the value of 'elementType'"},
-      {"\"propertyValues\":[{\"propertyType\":1}]}}",
-       "'propertyValues' cannot refer to the object with the id 1"},
-      {"\"propertyValues\":[{\"value\":\"x\"}]}}", "the member 'propertyType' is missing"},
-      {"\"propertyValues\":[{\"values\":\"x\"}]}}", "there can be no member 'values' here"},
-      {"\"propertyValues\":[{\"propertyType\":2,\"value\":1}]}}", "the value of 'value'"},
-      {"\"propertyValues\":1}}", "the value of 'propertyValues'"},
-      {"\"propertyTypes\":[{\"id\":2,\"class\":\"KYRPropertyType\",\"elementType\":\"KYRStoreModel\"}],"
-       "\"propertyValues\":[{\"propertyType\":2},{\"propertyType\":2}]}}",
-       "'propertyValues' cannot refer to the object with the id 2"},
-      {"\"designPackages\":[{\"id\":2,\"class\":\"KYRDesignPackage\",\"diagrams\":[{\"id\":3,"
-       "\"class\":\"KYRClassDiagram\",\"modelElements\":[\"2\"]}]}]}}",
-       "'modelElements' is not an id"},
-      {"\"designPackages\":[{\"id\":2,\"class\":\"KYRDesignPackage\",\"elements\":[{\"id\":3,"
-       "\"class\":\"KYRClass\",\"primaryKey\":5},{\"id\":4,\"class\":\"KYRClass\",\"keys\":[{\"id\":5,"
-       "\"class\":\"KYRCandidateKey\"}]}]}]}}",
-       "'primaryKey' cannot refer to the object with the id 5"},
-      {"\"designPackages\":[{\"id\":2,\"class\":\"KYRDesignPackage\",\"elements\":[{\"id\":3,"
-       "\"class\":\"KYRClass\",\"attributes\":[{\"id\":4,\"class\":\"KYRAttribute\",\"position\":65536}]}]}]}"
-       "}",
-       "the value of 'position'"},
-      {"\"name\":\"\xE9\"}}", "F0131"},
-      {"\"name\":\"x\"}", "F0131"},
-  };
-  for (const Damage& damage : inside) {
-    write(inModel + damage.text);
-    EXPECT_THAT(failureOf([&] { loadStoreModel(file()); }), HasSubstr(damage.message)) << damage.text;
-  }
-}
-
-TEST_F(StoreModelFile, RefusalsNameFileAndByte) {
-  write("{\"format\":\"kyr-store-model\",\"version\":7}");
-  EXPECT_EQ(failureOf([&] { loadStoreModel(file()); }),
-            "[KYRSTD_F0133] File '" + path() + "', byte 39: the version 7 of the format is not known");
-}
-
-TEST_F(StoreModelFile, IdsNeedNotBeInOrder) {
-  write(
-      "{\"format\":\"kyr-store-model\",\"version\":1,\"designLevel\":1,\"storeType\":3,\"origins\":[],"
-      "\"model\":{\"id\":77,\"class\":\"KYRStoreModel\",\"types\":["
-      "{\"id\":4000000000,\"class\":\"KYRDerivedType\",\"name\":\"d\",\"baseConcreteType\":5},"
-      "{\"id\":5,\"class\":\"KYRConcreteType\",\"name\":\"b\"}]}}");
-  const auto model = loadStoreModel(file());
-  const auto* derived = dynamic_cast<KYRDerivedType*>(model->types.get("d"));
-  ASSERT_NE(derived, nullptr);
-  EXPECT_EQ(derived->baseConcreteType, model->types.get("b"));
-}
-
-TEST_F(StoreModelFile, NestingWithoutMeaningIsRefusedAtOnce) {
-  write(std::string(1000000, '['));
-  EXPECT_THAT(failureOf([&] { loadStoreModel(file()); }), HasSubstr("byte 0: this is not a saved model"));
 }
 
 }  // namespace

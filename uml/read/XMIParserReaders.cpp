@@ -105,6 +105,7 @@ void XMIParser::completeObject(const ClassPlan& plan, const KYRString& tag,
   readScalars(plan, *object);
   noteReferences(plan, id);
   UMLElement* const element = object.get();
+  element->readingNumber = objects.getCount();
   objects.add(element, false, nullptr);
   object.release();  // owned by `objects` from here on
   ids.enter(id, element);

@@ -1,0 +1,26 @@
+// The boxes of a diagram.
+#pragma once
+
+#include <unordered_map>
+
+#include "repository/drawing/SvgDocument.h"
+#include "repository/model/KYRClassDiagram.h"
+#include "repository/model/KYRProjection.h"
+
+class DrawnBoxes {
+ public:
+  DrawnBoxes(SvgDocument& document, const KYRClassDiagram& diagram);
+  void draw();
+  /// The first box of the object; null when there is none.
+  const DrawnBox* find(const KYRModelObject* object) const;
+
+ private:
+  void drawBox(const KYRProjection& shape, const DrawnBox& box);
+
+  SvgDocument& document_;
+  const KYRClassDiagram& diagram_;
+  std::unordered_map<const KYRModelObject*, DrawnBox> boxes_;
+};
+
+/// The size of the letters: that of the shape, in a range that can be read.
+double fontSizeOf(const KYRPresentationElement& shape);
