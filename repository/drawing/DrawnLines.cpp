@@ -56,6 +56,16 @@ DrawnPath straightLine(const DrawnBox& from, const DrawnBox& to) {
   return {from.borderTowards(to.centre()), to.borderTowards(from.centre())};
 }
 
+// Trees are scaled and taken back a few times, so what the tool drew straight can be off by the rounding.
+void straighten(DrawnPath& path) {
+  constexpr double rounding = 2;
+  for (std::size_t i = path.size(); i-- > 1;) {
+    const DrawnPoint way = path[i] - path[i - 1];
+    if (std::fabs(way.x) <= rounding) path[i - 1].x = path[i].x;
+    if (std::fabs(way.y) <= rounding) path[i - 1].y = path[i].y;
+  }
+}
+
 bool isMostlyHorizontal(DrawnPoint way) { return std::fabs(way.x) > std::fabs(way.y); }
 
 }  // namespace
@@ -196,6 +206,7 @@ void DrawnLines::drawGeneralization(const KYRRelationshipProjection& line,
       const auto distance = [box](DrawnPoint point) { return lengthOf(box->nearest(point) - point); };
       if (distance(path.front()) < distance(path.back())) std::reverse(path.begin(), path.end());
       attachEnd(path, *box);
+      straighten(path);
     }
     if (isSuper && path.size() > 1) drawTriangle(path, penOf(line));
     document_.path(path, penOf(line));

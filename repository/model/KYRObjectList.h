@@ -1,8 +1,8 @@
 // KYRObjectList: object pointers in order of adding, each once, with cheap removal from anywhere.
 //
-// Removing leaves a gap; reading by position, other than at the ends, closes all gaps at once. A long list finds its entries
-// through an index that is made when the first removal or question asks for it, so that lists that
-// only grow never pay for one.
+// Removing leaves a gap; reading by position, other than at the ends, closes all gaps at once. A long
+// list finds its entries through an index that is made when the first removal or question asks for it,
+// so that lists that only grow never pay for one.
 #pragma once
 
 #include <cstdint>

@@ -54,6 +54,11 @@ TEST(CommandRequest, InfoAndInspectHaveTheirFlags) {
   EXPECT_EQ(inspect.kind, Kind::inspect);
   EXPECT_TRUE(inspect.inspect.listsObjects);
   EXPECT_FALSE(inspect.inspect.isJson);
+  const CommandRequest diagram = read({"diagram", "shop.json", "--name", "Orders", "-o", "out"});
+  EXPECT_EQ(diagram.kind, Kind::diagram);
+  EXPECT_EQ(diagram.diagram.file, "shop.json");
+  EXPECT_EQ(diagram.diagram.name, "Orders");
+  EXPECT_EQ(diagram.diagram.folder, "out");
 }
 
 TEST(CommandRequest, HelpAndVersionAreAnswersAlsoWithoutTheRest) {

@@ -91,7 +91,7 @@ class Help(CommandTest):
 
     def test_the_documentation_has_every_option(self):
         page = (pathlib.Path(__file__).parents[2] / "docs" / "command-line.md").read_text(encoding="utf-8")
-        for command in ("import", "info", "inspect"):
+        for command in ("import", "info", "inspect", "diagram"):
             section = page.split(f"## kyr {command}\n")[1].split("\n## ")[0]
             for option in re.findall(r"--[a-z-]+", self.kyr(command, "--help").output.split("Examples")[0]):
                 if option != "--help":
@@ -99,7 +99,7 @@ class Help(CommandTest):
 
     def test_the_list_of_commands_has_one_line_for_each(self):
         lines = self.kyr("--help").output.splitlines()
-        for command in ("import", "info", "inspect"):
+        for command in ("import", "info", "inspect", "diagram"):
             self.assertEqual(sum(line.startswith(f"  {command} ") for line in lines), 1)
 
     def test_the_version_is_that_of_the_plug_in(self):
