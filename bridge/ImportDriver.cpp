@@ -4,11 +4,11 @@
 #include "bridge/state/KYROmgUml2XmiImportBridge.h"
 #include "foundation/KYRException.h"
 #include "foundation/KYROption.h"
+#include "repository/KYRRepositoryMessages.h"
 #include "repository/bridgelib/KYRBridgeLib.h"
 #include "repository/datatypes/KYRDataTypeConverter.h"
 #include "repository/model/KYRMetadataOrigin.h"
 #include "repository/model/KYRStoreModel.h"
-#include "repository/plugin/KBCM.h"
 #include "repository/plugin/KYRBridgeSpecificationLiteral.h"
 #include "uml/UMLNamespaces.h"
 #include "xmi/XMIParser.h"
@@ -59,7 +59,8 @@ void KYROmgUml2XmiImportBridge::readOptions(KYROptionList& options) {
   const KYRString& fileOption = KBI_UML2XMI::BP_FILE.getIdentifier();
   const KYROption* const option = options.get(fileOption);
   if (option == nullptr) {
-    KBCM::MISSING_BRIDGE_OPTION.throwException(KBLST::BRIDGE_SPEC_OMGUML2XMI_IMPORT.getName(), fileOption);
+    KYRRepositoryMessages::MISSING_BRIDGE_OPTION.throwException(
+        KBLST::BRIDGE_SPEC_OMGUML2XMI_IMPORT.getName(), fileOption);
   }
   file = option->getValue();
   rootPackageName = options.getValue(KBI_UML2XMI::BP_ROOT_PACKAGE.getIdentifier());

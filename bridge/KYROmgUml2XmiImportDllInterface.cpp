@@ -2,6 +2,7 @@
 #include "bridge/KYROmgUml2XmiImportDllInterface.h"
 
 #include "BuildTime.h"
+#include "bridge/SpecificationText.h"
 #include "bridge/messages/KBI_UML2XMI.h"
 #include "bridge/state/KYROmgUml2XmiImportBridge.h"
 #include "foundation/KYRDate.h"
@@ -22,14 +23,13 @@ constexpr const char* pluginName = "KYROmgUml2XmiImport";
 constexpr const char* versionPrefix = "10.0.1 - ";
 constexpr const char* fileExtensions[] = {"xml", "xmi", "uml", "uml2", nullptr};
 
-// A literal that the catalogue does not know shows as a visible mark and is no error.
+}  // namespace
+
 KYRString descriptionOf(const KYRBridgeSpecificationLiteral& literal) {
   const KYRString& id = literal.getInternalCode_DescriptionLiteralId();
   const KYRTextLiteral* const text = KBI_UML2XMI::findTextLiteral(id);
   return text != nullptr ? text->getText() : "*** " + id;
 }
-
-}  // namespace
 
 KYROmgUml2XmiImportDllInterface::KYROmgUml2XmiImportDllInterface() = default;
 

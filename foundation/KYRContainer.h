@@ -5,7 +5,7 @@
 #include "foundation/Export.h"
 
 /// Root of all containers.
-class KYR_EXPORT _KYRContainer {  // NOLINT(bugprone-reserved-identifier): the name is given to hosts
+class KYR_EXPORT _KYRContainer {  // NOLINT(bugprone-reserved-identifier): hosts know it by this name
  public:
   _KYRContainer() = default;
   _KYRContainer(const _KYRContainer&) = default;

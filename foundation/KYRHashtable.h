@@ -47,7 +47,7 @@ class KYR_EXPORT KYRHashtable : public KYRContainer {
 #pragma GCC diagnostic ignored "-Woverloaded-virtual"
   /// Takes the entries of `other` in their order; hashing and comparing stay this table's own. When
   /// one of them raises, or memory runs out, the table is as before.
-  // NOLINTNEXTLINE(misc-unconventional-assign-operator): the slot is given, so it is virtual
+  // NOLINTNEXTLINE(misc-unconventional-assign-operator): derived tables override it, so it is virtual
   virtual KYRHashtable& operator=(const KYRHashtable& other);
 #pragma GCC diagnostic pop
   /// Same objects (by address) in the same order.

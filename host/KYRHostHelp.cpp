@@ -47,10 +47,9 @@ const HostText<0> IMPORT_HELP_OUTPUT(
     "IMPORT_HELP_OUTPUT",
     "The file to write, or a folder to write it in. Without it: the name of the "
     "model file with the extension .json, in the current folder");
-const HostText<0> IMPORT_HELP_ROOT_PACKAGE(
-    "IMPORT_HELP_ROOT_PACKAGE",
-    "Put what stands in no package into a package of this name. If the model has a single top package of "
-    "that name, it is marked as one that a destination may leave out");
+const HostText<0> IMPORT_HELP_ROOT_PACKAGE("IMPORT_HELP_ROOT_PACKAGE",
+                                           "Put the whole model into a package of this name, which is marked "
+                                           "as one that a destination may leave out");
 const HostText<0> IMPORT_HELP_MODIFICATION_TIME(
     "IMPORT_HELP_MODIFICATION_TIME",
     "The time of modification to save, instead of the present: ISO 8601, such as 2026-01-01T00:00:00Z. The "

@@ -23,5 +23,6 @@ int main(int argumentCount, char** arguments) {
   fillStandardFiles();
   // A reader that goes away must not kill an import; writing to it fails instead.
   std::signal(SIGPIPE, SIG_IGN);
+  std::signal(SIGXFSZ, SIG_IGN);  // a file size limit is then an error of the write
   return runCommandLine(argumentCount, arguments);
 }

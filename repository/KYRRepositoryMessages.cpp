@@ -53,3 +53,9 @@ const Row<4> KYRRepositoryMessages::WRONG_REFERENCE(
     143, fatal, "File '{0}', byte {1}: '{3}' cannot refer to the object with the id {2}");
 const Row<2> KYRRepositoryMessages::TYPES_IN_RING(
     144, fatal, "File '{0}': the type '{1}' rests on itself over other types");
+const Row<2> KYRRepositoryMessages::MISSING_BRIDGE_OPTION(
+    146, fatal, "The bridge '{0}' needs the option '{1}', which the option list does not hold");
+const Row<2> KYRRepositoryMessages::CONVERSION_LIMIT(147, fatal,
+                                                     "The packages of the file '{0}' list the same elements "
+                                                     "over and over: the limit of {1} conversion steps is "
+                                                     "exceeded");

@@ -38,4 +38,7 @@ class KYR_EXPORT KYRRepositoryMessages {
   static const Message<3> UNKNOWN_REFERENCE;
   static const Message<4> WRONG_REFERENCE;
   static const Message<2> TYPES_IN_RING;
+  // Imports. The bridge and the option without which it cannot begin; the file and the limit.
+  static const Message<2> MISSING_BRIDGE_OPTION;
+  static const Message<2> CONVERSION_LIMIT;
 };

@@ -44,7 +44,7 @@ class XMIParser {
 
   /// Reads the file and finishes its objects. The result lives as long as the parser.
   /// Raises KYRException: "[KBI_UML2XMI_F0008] ..." when no model element started anywhere in the
-  /// file, and whatever the XML reader raises. After an exception the parser holds nothing.
+  /// file, and whatever the XML reader raises. After an exception the parser holds no object of the file.
   UMLModel* parse(const KYRFile& file);
 
   /// All UML objects, in order of reading.

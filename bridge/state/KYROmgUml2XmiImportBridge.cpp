@@ -1,9 +1,9 @@
 // Making and destroying the working state, and what all phases of the conversion share.
 #include "bridge/state/KYROmgUml2XmiImportBridge.h"
 
+#include "repository/KYRRepositoryMessages.h"
 #include "repository/datatypes/KYRDataTypeConverter.h"
 #include "repository/model/KYRNamespace.h"
-#include "repository/plugin/KBCM.h"
 #include "uml/UMLElement.h"
 
 namespace {
@@ -48,6 +48,7 @@ void KYROmgUml2XmiImportBridge::keepUnplaced(std::unique_ptr<KYRObject> object) 
 void KYROmgUml2XmiImportBridge::countSteps(unsigned int steps) {
   stepCount += steps;
   if (stepCount > stepLimit) {
-    KBCM::CONVERSION_LIMIT.throwException(file.getName(), KYRString(std::to_string(stepLimit)));
+    KYRRepositoryMessages::CONVERSION_LIMIT.throwException(file.getName(),
+                                                           KYRString(std::to_string(stepLimit)));
   }
 }

@@ -36,12 +36,13 @@ struct Alias {
   std::string_view name;  // in capitals
   const char* converterName;
 };
-constexpr std::array<Alias, 29> aliases = {{
+constexpr std::array<Alias, 30> aliases = {{
     {"UTF-8", "UTF-8"},
     {"UTF8", "UTF-8"},
     {"UTF_8", "UTF-8"},
     {"CSUTF8", "UTF-8"},
     {"WINDOWS-1252", "CP1252"},
+    {"WINDOWS_1252", "CP1252"},
     {"CP1252", "CP1252"},
     {"MS-ANSI", "CP1252"},
     {"SHIFT_JIS", "CP932"},

@@ -5,13 +5,6 @@
 
 KBCM::MessageInstance_String_String KBCM::UNSUPPORTED_BRIDGE_OPERATION(
     1, "The bridge '{0}' does not support the operation '{1}'", "FATAL");
-KBCM::MessageInstance_String_String KBCM::MISSING_BRIDGE_OPTION(
-    2, "The bridge '{0}' needs the option '{1}', which the option list does not hold", "FATAL");
-KBCM::MessageInstance_String_String KBCM::CONVERSION_LIMIT(
-    3,
-    "The packages of the file '{0}' list the same elements over and over: the limit of {1} conversion "
-    "steps is exceeded",
-    "FATAL");
 
 KBCM::MessageInstance_String_String::MessageInstance_String_String(int number, const KYRString& text,
                                                                    const KYRString& levelName)

@@ -22,8 +22,4 @@ class KYR_EXPORT KBCM {
 
   /// {0}: the bridge, {1}: the operation.
   static MessageInstance_String_String UNSUPPORTED_BRIDGE_OPERATION;
-  /// {0}: the bridge, {1}: the option without which an import cannot begin.
-  static MessageInstance_String_String MISSING_BRIDGE_OPTION;
-  /// {0}: the file, {1}: the limit.
-  static MessageInstance_String_String CONVERSION_LIMIT;
 };

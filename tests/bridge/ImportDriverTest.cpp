@@ -102,22 +102,23 @@ TEST(ImportDriver, OnlyTheTwoToolsGetATreeWhateverTheCaseOfTheirNames) {
               {"Other", false},
               {"", false}};
   for (const auto& row : rows) {
-    WatchedImport import(xmi(oneClass, "Model", documentationOf(row.exporter)));
+    WatchedImport watched(xmi(oneClass, "Model", documentationOf(row.exporter)));
     bool isSeen = false;
-    import.log.watch = [&](const std::string& code) { if (code != "KBI_UML2XMI_S0013") return;
-    isSeen = true;
-    EXPECT_EQ(import.bridge.dom != nullptr, row.hasTree) << row.exporter;
-    EXPECT_EQ(import.bridge.domRoot != nullptr, row.hasTree) << row.exporter;
-    EXPECT_EQ(import.bridge.domModel != nullptr, row.hasTree) << row.exporter;
-    if (row.hasTree) {
-      EXPECT_EQ(text(import.bridge.domRoot->getTagName()), "xmi:XMI");
-      EXPECT_EQ(text(import.bridge.domModel->getAttribute("xmi:id")), "model");
-    }
-  };
-  import.run();
-  EXPECT_TRUE(isSeen);
-  expectReleased(import.bridge);
-}
+    watched.log.watch = [&](const std::string& code) {
+      if (code != "KBI_UML2XMI_S0013") return;
+      isSeen = true;
+      EXPECT_EQ(watched.bridge.dom != nullptr, row.hasTree) << row.exporter;
+      EXPECT_EQ(watched.bridge.domRoot != nullptr, row.hasTree) << row.exporter;
+      EXPECT_EQ(watched.bridge.domModel != nullptr, row.hasTree) << row.exporter;
+      if (row.hasTree) {
+        EXPECT_EQ(text(watched.bridge.domRoot->getTagName()), "xmi:XMI");
+        EXPECT_EQ(text(watched.bridge.domModel->getAttribute("xmi:id")), "model");
+      }
+    };
+    watched.run();
+    EXPECT_TRUE(isSeen);
+    expectReleased(watched.bridge);
+  }
 }
 
 TEST(ImportDriver, ANamelessModelIsNamedAfterItsFile) {
@@ -133,70 +134,72 @@ TEST(ImportDriver, WithoutADataStoreTheModelIsLogical) {
 }
 
 TEST(ImportDriver, WithADataStoreTheModelIsPhysicalAndBearsIt) {
-  WatchedImport import(xmi(oneClass));
+  WatchedImport watched(xmi(oneClass));
   const KYRDataStoreVersion oracle(KYRDataTypeConstants::DATASTORE_ORACLE, 12, 0, 0);
-  import.log.watch = [&](const std::string& code) { if (code != "KBI_UML2XMI_S0013") return;
-  import.bridge.targetDataStore = &oracle;
-  import.bridge.dataTypeConverter =
-      std::make_unique<KYRDataTypeConverter>(import.log, oracle, KYRDataTypeConstants::TOOL_KYRGENERIC);
-};
-import.run();
-EXPECT_EQ(import.model.designLevel, 0);
-EXPECT_EQ(import.model.storeType, 0);
-EXPECT_EQ(text(import.model.dataStore), "ORACLE");
+  watched.log.watch = [&](const std::string& code) {
+    if (code != "KBI_UML2XMI_S0013") return;
+    watched.bridge.targetDataStore = &oracle;
+    watched.bridge.dataTypeConverter =
+        std::make_unique<KYRDataTypeConverter>(watched.log, oracle, KYRDataTypeConstants::TOOL_KYRGENERIC);
+  };
+  watched.run();
+  EXPECT_EQ(watched.model.designLevel, 0);
+  EXPECT_EQ(watched.model.storeType, 0);
+  EXPECT_EQ(text(watched.model.dataStore), "ORACLE");
 }
 
 TEST(ImportDriver, AMissingFileOptionIsAnExceptionThatNamesIt) {
-  WatchedImport import(xmi(oneClass));
-  import.options.removeAll();
+  WatchedImport watched(xmi(oneClass));
+  watched.options.removeAll();
   try {
-    import.run();
+    watched.run();
     FAIL();
   } catch (const KYRException& exception) {
-    EXPECT_EQ(text(exception.getMessage()),
-              "[KBCM_F0002] The bridge 'OmgUml2XmiImport' needs the option 'BP_FILE', which the option list "
-              "does not hold");
+    EXPECT_EQ(
+        text(exception.getMessage()),
+        "[KYRSTD_F0146] The bridge 'OmgUml2XmiImport' needs the option 'BP_FILE', which the option list "
+        "does not hold");
   }
-  EXPECT_EQ(import.model.metadataOrigin, nullptr);
+  EXPECT_EQ(watched.model.metadataOrigin, nullptr);
 }
 
 TEST(ImportDriver, AMissingRootPackageOptionCountsAsEmpty) {
-  WatchedImport import(xmi(oneClass));
-  const std::string path = import.input.path;
-  import.options.removeAll();
-  import.options.add(new KYROption("BP_FILE", "", OptionType::file, "", path.c_str(), true));
-  import.run();
-  EXPECT_EQ(import.model.designPackages.count(), 1U);
+  WatchedImport watched(xmi(oneClass));
+  const std::string path = watched.input.path;
+  watched.options.removeAll();
+  watched.options.add(new KYROption("BP_FILE", "", OptionType::file, "", path.c_str(), true));
+  watched.run();
+  EXPECT_EQ(watched.model.designPackages.count(), 1U);
 }
 
 TEST(ImportDriver, AFailureInTheConversionStillRunsTheReleaseStep) {
   for (const char* failing : {"KBI_UML2XMI_S0013", "KBI_UML2XMI_S0015", "KBI_UML2XMI_S0018"}) {
-    WatchedImport import(xmi(oneClass + element("Package", "xmi:id='e' name='Empty'") +
-                                 element("AssociationClass", "xmi:id='ac' name='Loose'"),
-                             "Model", documentationOf("Enterprise Architect")));
-    import.log.watch = [&](const std::string& code) {
+    WatchedImport watched(xmi(oneClass + element("Package", "xmi:id='e' name='Empty'") +
+                                  element("AssociationClass", "xmi:id='ac' name='Loose'"),
+                              "Model", documentationOf("Enterprise Architect")));
+    watched.log.watch = [&](const std::string& code) {
       if (code == failing) KBI_UML2XMI::UML2_I_DBG_HANDLER_ERROR.throwException("this is meant");
-  };
-  EXPECT_THROW(import.run(), KYRException) << failing;
-  expectReleased(import.bridge);
-  EXPECT_EQ(import.model.designPackages.get("Empty"), nullptr);
-}
+    };
+    EXPECT_THROW(watched.run(), KYRException) << failing;
+    expectReleased(watched.bridge);
+    EXPECT_EQ(watched.model.designPackages.get("Empty"), nullptr);
+  }
 }
 
 TEST(ImportDriver, AFailureInTheReaderPassesThroughAndRunsTheReleaseStep) {
-  WatchedImport import("<xmi:XMI><uml:Model xmi:id='m'></xmi:XMI>");
+  WatchedImport watched("<xmi:XMI><uml:Model xmi:id='m'></xmi:XMI>");
   auto* const empty = new KYRDesignPackage();
-  import.model.addDesignPackage(empty);
-  EXPECT_THROW(import.run(), KYRException);
-  expectReleased(import.bridge);
-  EXPECT_EQ(import.model.designPackages.count(), 0U);  // pruned, the import having failed or not
+  watched.model.addDesignPackage(empty);
+  EXPECT_THROW(watched.run(), KYRException);
+  expectReleased(watched.bridge);
+  EXPECT_EQ(watched.model.designPackages.count(), 0U);  // pruned, the import having failed or not
 }
 
 TEST(ImportDriver, AnExceptionOfAnotherKindPassesThroughAsItIs) {
-  WatchedImport import(xmi(oneClass));
-  import.log.watch = [](const std::string& code) {
+  WatchedImport watched(xmi(oneClass));
+  watched.log.watch = [](const std::string& code) {
     if (code == "KBI_UML2XMI_S0020") throw std::runtime_error("this is meant");
-};
-EXPECT_THROW(import.run(), std::runtime_error);
-expectReleased(import.bridge);
+  };
+  EXPECT_THROW(watched.run(), std::runtime_error);
+  expectReleased(watched.bridge);
 }

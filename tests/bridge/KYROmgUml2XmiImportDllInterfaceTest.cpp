@@ -6,6 +6,7 @@
 #include <filesystem>
 
 #include "BuildTime.h"
+#include "bridge/SpecificationText.h"
 #include "bridge/messages/KBI_UML2XMI.h"
 #include "foundation/KYRDate.h"
 #include "foundation/KYRException.h"
@@ -164,6 +165,27 @@ TEST(KYROmgUml2XmiImportDllInterface, AFailedRunRaisesAndLeavesNoFile) {
     EXPECT_EQ(text(exception.getMessage()), "[KBI_UML2XMI_F0008] This file may not be a valid UML2 file.");
   }
   EXPECT_TRUE(folder.isEmpty());
+}
+
+TEST(KYROmgUml2XmiImportDllInterface, AFailureInTheConversionSavesNothing) {
+  struct FailingLog : RecordingLog {
+    void log(const KYRLogEvent& event) override {
+      if (event.getCode().view() == "KBI_UML2XMI_S0015") throw KYRException("this is meant", "");
+    }
+  } log;
+  const OutputFolder folder;
+  const TemporaryFile input(xmi(element("Class", "xmi:id='c' name='C'")));
+  KYROptionList options;
+  plugin().getOptionList(options);
+  options.get("BP_FILE")->setValue(input.path.c_str());
+  KYRFile output((folder.path + "/out.json").c_str());
+  EXPECT_THROW(plugin().run("origin", output, options, log), KYRException);
+  EXPECT_TRUE(folder.isEmpty());
+}
+
+TEST(SpecificationText, ATextThatTheCatalogueDoesNotKnowShowsAsAMark) {
+  const KYRBridgeSpecificationLiteral literal({"some bridge", "no such id", "", "", "", "", ""});
+  EXPECT_EQ(text(descriptionOf(literal)), "*** no such id");
 }
 
 TEST(KYROmgUml2XmiImportDllInterface, OneObjectServesManyRuns) {

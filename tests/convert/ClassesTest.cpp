@@ -88,6 +88,24 @@ TEST(Classes, ABoundaryHasNoRepositoryObject) {
   EXPECT_TRUE(log.lines.empty());
 }
 
+TEST(Classes, ABoundaryOfAFileTakesTheRelationsThatEndOnItAlong) {
+  const std::string ends =
+      "<ownedEnd xmi:type='uml:Property' xmi:id='e1' type='c' association='s'/>"
+      "<ownedEnd xmi:type='uml:Property' xmi:id='e2' type='b' association='s'/>";
+  const ImportedModel imported(
+      "<xmi:XMI xmlns:xmi='http://schema.omg.org/spec/XMI/2.1' "
+      "xmlns:uml='http://schema.omg.org/spec/UML/2.1'>"
+      "<xmi:Documentation exporter='Enterprise Architect' exporterVersion='6.5'/>"
+      "<uml:Model xmi:id='model' name='Model'>" +
+      element("Class", "xmi:id='c' name='C'",
+              "<generalization xmi:type='uml:Generalization' xmi:id='g' general='b'/>") +
+      element("Class", "xmi:id='b' name='B'") + element("Association", "xmi:id='s'", ends) +
+      "</uml:Model><xmi:Extension extender='Enterprise Architect'><elements>"
+      "<element xmi:idref='b' xmi:type='uml:Boundary'/></elements></xmi:Extension></xmi:XMI>");
+  EXPECT_TRUE(imported.has("c"));
+  for (const char* const id : {"b", "s", "e1", "e2", "g"}) EXPECT_FALSE(imported.has(id)) << id;
+}
+
 TEST(Classes, OnAPhysicalTargetClassesArePhysical) {
   RecordingLog log;
   KYRStoreModel model;

@@ -181,6 +181,19 @@ TEST(ExtensionEA, OfSeveralEntriesOfOneIdTheFirstServes) {
   EXPECT_TRUE(reading.model->documentation.isEmpty());
 }
 
+TEST(ExtensionEA, DocumentationBehindTheModelTakesThePathOfAnyOtherTool) {
+  const std::string documentation =
+      "<xmi:Documentation exporter='Enterprise Architect' exporterVersion='6.5'/>";
+  const std::string model =
+      "<uml:Model xmi:id='m'><packagedElement xmi:type='uml:Class' xmi:id='c'/></uml:Model>";
+  const std::string section =
+      "<xmi:Extension extender='Enterprise Architect'><element xmi:idref='c'><properties documentation='d'/>"
+      "</element></xmi:Extension></xmi:XMI>";
+  const std::string root = "<xmi:XMI xmlns:uml='u' xmlns:xmi='x'>";
+  EXPECT_EQ(Reading(root + documentation + model + section).find("c")->documentation.view(), "d");
+  EXPECT_EQ(Reading(root + model + documentation + section).find("c")->documentation.view(), "");
+}
+
 TEST(ExtensionEA, TheSectionItselfCanBeAnEntry) {
   const Reading reading(
       "<xmi:XMI xmlns:uml='u' xmlns:xmi='x'><xmi:Documentation exporter='Enterprise Architect'/>"

@@ -196,7 +196,7 @@ TEST(XmlTokenizer, ExactlyTheLimitPassesAndOneMoreIsTold) {
   }
 }
 
-TEST(XmlTokenizer, TheLimitsOfAFreshProcessAreTheToldOnes) {
+TEST(XmlTokenizer, TheLimitsOfAFreshProcessAreTheDefaults) {
   const XmlLimits limits;
   EXPECT_EQ(limits.maxDepth, 1000U);
   EXPECT_EQ(limits.maxAttributes, 10000U);

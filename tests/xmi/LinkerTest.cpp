@@ -148,8 +148,9 @@ TEST(Linker, ALinkThatRaisesIsLoggedByNameAndStopsNoOther) {
     EXPECT_FALSE(parser.linkRelationship(&owner, &second, ownedAttributeOfClass));
   }
   ASSERT_EQ(log.lines.size(), 1U);
-  EXPECT_EQ(log.lines.front(),
-            "KBI_UML2XMI_F0005 An error occurred while creating a relationship: 'UML_A_OWNEDATTRIBUTE_CLASS'");
+  EXPECT_EQ(
+      log.lines.front(),
+      "KBI_UML2XMI_F0005 An error occurred while creating a relationship: 'UML_A_OWNEDATTRIBUTE_CLASS'");
   EXPECT_EQ(idsOf(owner.ownedAttribute), "1");
   EXPECT_TRUE(parser.linkRelationship(&owner, &second, ownedAttributeOfClass));
   EXPECT_EQ(idsOf(owner.ownedAttribute), "1 2");

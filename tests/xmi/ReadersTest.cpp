@@ -1,7 +1,28 @@
 // What a reader does with the attributes, the id and the place of one element.
 #include "tests/xmi/Reading.h"
+#include "xmi/ReadObserver.h"
 
 namespace {
+
+// The links that a text notes, in their order: "first second kind" each.
+std::vector<std::string> linksOf(const std::string& xml) {
+  struct Observer : ReadObserver {
+    void skippedType(const KYRString&, const KYRString&) override {}
+    void unknownTag(const KYRString&, const KYRString&) override {}
+    void link(const KYRString& first, const KYRString& second, int kind, LinkResult) override {
+      links.push_back(std::string(first.view()) + " " + std::string(second.view()) + " " +
+                      std::to_string(kind));
+    }
+    std::vector<std::string> links;
+  } observer;
+  DispatchRows::resetForTests();
+  const TemporaryFile file(xml);
+  RecordingLog log;
+  XMIParser parser(&log);
+  parser.setObserver(&observer);
+  parser.parse(file.file());
+  return observer.links;
+}
 
 TEST(Readers, AnElementWithoutAnIdIsMadeButNotOwned) {
   const Reading reading(
@@ -36,6 +57,25 @@ TEST(Readers, ATypeAsAttributeAndAsChildIsOneType) {
       "<ownedAttribute xmi:type='uml:Property' xmi:id='p' type='c'><type xmi:idref='c'/></ownedAttribute>"
       "</packagedElement>"));
   EXPECT_EQ(reading.get<UMLProperty>("p").type, reading.find("c"));
+}
+
+TEST(Readers, BothFormsOfAReferenceAreNotedInOppositeOrders) {
+  EXPECT_EQ(linksOf(inModel("<packagedElement xmi:type='uml:Class' xmi:id='c'>"
+                            "<ownedAttribute xmi:type='uml:Property' xmi:id='p' type='c'>"
+                            "<type xmi:idref='c'/></ownedAttribute></packagedElement>")),
+            (std::vector<std::string>{"m c 0", "m c 45", "c p 4", "c p 0", "c p 17", "p c 4"}));
+  EXPECT_EQ(linksOf(inModel("<packagedElement xmi:type='uml:Class' xmi:id='c'><ownedAttribute xmi:idref='p'/>"
+                            "</packagedElement>")),
+            (std::vector<std::string>{"m c 0", "m c 45", "c p 17"}));
+}
+
+TEST(Readers, ReferenceAttributesAreNotedAlongTheLineage) {
+  EXPECT_EQ(
+      linksOf(inModel("<packagedElement xmi:type='uml:Abstraction' xmi:id='a' namespace='n' "
+                      "clientDependency='n' ownedComment='n' owner='n' ownedElement='n' "
+                      "relatedElement='n' target='n' source='n' client='n' supplier='n' mapping='n'/>")),
+      (std::vector<std::string>{"n a 96", "n a 99", "n a 100", "n a 1", "n a 2", "n a 36", "n a 0", "n a 0",
+                                "n a 13", "n a 100", "n a 101", "m a 0", "m a 45"}));
 }
 
 TEST(Readers, AModelWithoutAnIdHasItsNameAsId) {

@@ -24,6 +24,12 @@ TEST(XMIParser, APackageTagWithATypeStandsForTheModelToo) {
   EXPECT_EQ(reading.model->getKind(), UMLModel::kind);
 }
 
+TEST(XMIParser, TheRootRuleHoldsAtAnyDepthAndWhateverTheType) {
+  const Reading reading(
+      "<xmi:XMI xmlns:uml='u' xmlns:xmi='x'><a><uml:Package xmi:id='p' xmi:type='uml:Class'/></a></xmi:XMI>");
+  EXPECT_EQ(reading.model->id.view(), "p");
+}
+
 TEST(XMIParser, ALaterPackageTagMatchesNoRowAndIsNotReported) {
   const Reading reading(
       inModel("<uml:Package xmi:id='p'><packagedElement xmi:type='uml:Class' xmi:id='c' name='C'/>"
