@@ -57,8 +57,8 @@ class ElementIndex {
   XmlDocument::Name idName_;
   std::vector<char> isModelTag_;  // by name: the tag ends a chain
   std::vector<Record> records_;
-  std::vector<Number> slots_;   // open addressing over the records; none marks a free slot
-  std::vector<Known> objects_;  // by reading number
+  std::vector<Number> slots_;             // open addressing over the records; none marks a free slot
+  std::vector<Known> objects_;            // by reading number
   std::vector<const UMLElement*> chain_;  // room for `know`
   std::uint64_t comparisons_ = 0;
 };
