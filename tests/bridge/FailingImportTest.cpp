@@ -6,8 +6,8 @@
 #include <new>
 
 #include "foundation/KYRException.h"
-#include "tests/bridge/FailingAllocation.h"
 #include "tests/convert/ImportedModel.h"
+#include "tests/support/FailingAllocation.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // Resolving references: both ends, both orders, and what is dropped in silence.
-#include "tests/support/FailingAllocations.h"
+#include "tests/support/FailingAllocation.h"
 #include "tests/xmi/Reading.h"
 #include "xmi/ReadObserver.h"
 
@@ -144,7 +144,7 @@ TEST(Linker, ALinkThatRaisesIsLoggedByNameAndStopsNoOther) {
   constexpr int ownedAttributeOfClass = 17;
   ASSERT_TRUE(parser.linkRelationship(&owner, &first, ownedAttributeOfClass));
   {
-    const FailingAllocations fail(1);  // the second entry needs a list on the heap
+    const FailingAllocation failing(0);  // the second entry needs a list on the heap
     EXPECT_FALSE(parser.linkRelationship(&owner, &second, ownedAttributeOfClass));
   }
   ASSERT_EQ(log.lines.size(), 1U);

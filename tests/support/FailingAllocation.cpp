@@ -1,5 +1,5 @@
 // The replaced operator new of the test program.
-#include "tests/bridge/FailingAllocation.h"
+#include "tests/support/FailingAllocation.h"
 
 #include <cstdlib>
 #include <new>
