@@ -4,6 +4,7 @@
 #include "bridge/state/KYROmgUml2XmiImportBridge.h"
 #include "foundation/KYRException.h"
 #include "foundation/KYROption.h"
+#include "foundation/KYRPhaseTimes.h"
 #include "repository/KYRRepositoryMessages.h"
 #include "repository/bridgelib/KYRBridgeLib.h"
 #include "repository/datatypes/KYRDataTypeConverter.h"
@@ -50,7 +51,10 @@ int KYROmgUml2XmiImportBridge::importModel(KYRStoreModel& model, KYROptionList& 
   umlModel = parser.parse(file);
   stepLimit = stepsForAnyFile + stepsForOneElement * parser.getObjects().getCount();
   loadDom();
-  if (umlModel != nullptr) convertModel();
+  if (umlModel != nullptr) {
+    const KYRPhaseTimer timer(KYRPhase::convert);
+    convertModel();
+  }
   finishModel();
   return 1;
 }
@@ -96,6 +100,7 @@ void KYROmgUml2XmiImportBridge::loadDom() {
 }
 
 void KYROmgUml2XmiImportBridge::finishModel() {
+  const KYRPhaseTimer timer(KYRPhase::finish);
   markOptionalAttributes();
   factorizeTypes(storeModel, 0, 0);
   for (KYRClassDiagram* diagram : diagrams) {

@@ -1,6 +1,7 @@
 // The release step: the end of every import. Repository objects are looked at only before `objects` is
 // emptied or when they are destroyed here; UML objects, which are gone already, are not looked at.
 #include "bridge/state/KYROmgUml2XmiImportBridge.h"
+#include "foundation/KYRPhaseTimes.h"
 #include "repository/bridgelib/KYRBridgeLib.h"
 #include "repository/model/KYRAttribute.h"
 
@@ -14,6 +15,7 @@ void deleteRecords(const Table& table) noexcept {
 }  // namespace
 
 void KYROmgUml2XmiImportBridge::release() noexcept {
+  const KYRPhaseTimer timer(KYRPhase::release);
   // An attribute never holds another, so none of these is deleted with one before it.
   KYRRBTree::Iterator dropped(droppedAttributes, true);
   while (const void* attribute = dropped.get()) {

@@ -44,8 +44,10 @@ void KYROmgUml2XmiImportBridge::connectGeneralization(UMLElement* cause, UMLGene
   KYRGeneralization*& generalization = generalizationsBySuper_[super];
   if (generalization == nullptr) generalization = createGeneralization(cause, super);
   getSupertypeGeneralizationRole(generalization, super, true);
+  const unsigned int knownRoles = generalization->subtypeRoles.count();
   KYRGeneralizationRole* const role = getSubtypeGeneralizationRole(generalization, sub, true);
-  objects.removeRecord(role);  // a second edge between the same classes renames their role
+  // A second edge between the same classes renames their role.
+  if (generalization->subtypeRoles.count() == knownRoles) objects.removeRecord(role);
   role->sourceId = edge->id;
   objects.addRecord(role);
 }

@@ -71,9 +71,10 @@ class KYRHashtable::TableIterator : public KYRContainer::Iterator {
   unsigned int slot_;
 };
 
-KYRHashtable::KYRHashtable(int bucketCount)
+KYRHashtable::KYRHashtable(int bucketCount, Hashing hashing)
     : wantedBuckets_(
-          static_cast<std::uint32_t>(bucketsFor(static_cast<std::size_t>(std::max(bucketCount, 0))))) {}
+          static_cast<std::uint32_t>(bucketsFor(static_cast<std::size_t>(std::max(bucketCount, 0))))),
+      hashing_(hashing) {}
 
 KYRHashtable::KYRHashtable(const KYRHashtable& other)
     : _KYRContainer(other),
@@ -82,7 +83,9 @@ KYRHashtable::KYRHashtable(const KYRHashtable& other)
       buckets_(other.buckets_),
       wantedBuckets_(other.wantedBuckets_),
       count_(other.count_),
-      firstSlot_(other.firstSlot_) {}
+      firstSlot_(other.firstSlot_),
+      hashing_(other.hashing_),
+      isWaiting_(other.isWaiting_) {}
 
 KYRHashtable::~KYRHashtable() = default;
 
@@ -92,6 +95,7 @@ void KYRHashtable::empty() {
   count_ = 0;
   firstSlot_ = 0;
   addresses_.reset();
+  isWaiting_ = false;
 }
 
 KYRContainer::Iterator* KYRHashtable::newIterator(bool /*forward*/) const { return new TableIterator(*this); }
@@ -100,21 +104,56 @@ void KYRHashtable::deleteIterator(Iterator* iterator) const { delete iterator; }
 
 bool KYRHashtable::add(const void* object, bool unique, Iterator* /*position*/) {
   if (object == nullptr) return false;
+  if (!unique && hashing_ == Hashing::atFirstLookup && (isWaiting_ || buckets_.empty())) {
+    makeRoomForOne();
+    isWaiting_ = true;
+    append(object, 0, false, none);
+    return true;
+  }
+  requireHashes();  // before the object's own hash, so that a failure is told in order
   const std::uint32_t hash = hashObject(object);
   const bool isChained = compare2Object(object, object) == 0;
   const std::uint32_t leader = isChained ? findEqual(object, hash) : none;
   if (unique && leader != none) return false;
 
-  if (entries_.size() >= none) throw std::length_error("KYRHashtable: too many entries");
   if (buckets_.empty()) {
     rebuildBuckets(wantedBuckets_);
   } else if (count_ >= buckets_.size()) {
     resize(static_cast<int>(std::min<std::size_t>(buckets_.size() * 2, std::size_t{1} << 30)));
   }
-  if (entries_.size() == entries_.capacity()) entries_.reserve(std::max(entries_.size() * 2, smallestTable));
+  makeRoomForOne();
   if (addresses_) addresses_->insert(object, static_cast<std::uint32_t>(entries_.size()));
   append(object, hash, isChained, leader);
   return true;
+}
+
+void KYRHashtable::makeRoomForOne() {
+  if (entries_.size() >= none) throw std::length_error("KYRHashtable: too many entries");
+  if (entries_.size() == entries_.capacity()) entries_.reserve(std::max(entries_.size() * 2, smallestTable));
+}
+
+// The objects keep their slots, since a walk may be under way.
+void KYRHashtable::hashWaiting() {
+  KYRHashtable waiting(static_cast<int>(smallestTable));
+  waiting.entries_.swap(entries_);
+  waiting.count_ = std::exchange(count_, 0);
+  isWaiting_ = false;
+  try {
+    rebuildBuckets(std::max<std::size_t>(wantedBuckets_, bucketsFor(waiting.count_)));
+    entries_.reserve(waiting.count_);
+    for (const Entry& entry : waiting.entries_) KYRHashtable::add(entry.object, false, nullptr);
+  } catch (...) {
+    buckets_.clear();
+    entries_.swap(waiting.entries_);
+    count_ = waiting.count_;
+    isWaiting_ = true;
+    throw;
+  }
+}
+
+// What can be observed of the table stays the same.
+void KYRHashtable::requireHashes() const {
+  if (isWaiting_) const_cast<KYRHashtable*>(this)->hashWaiting();
 }
 
 bool KYRHashtable::contains(const void* object, Iterator* /*position*/) const {
@@ -127,6 +166,7 @@ const void* KYRHashtable::findFirst(const void* key, Iterator* /*position*/) con
 }
 
 const void* KYRHashtable::remove(Iterator* position) {
+  requireHashes();
   auto* const iterator = dynamic_cast<TableIterator*>(position);
   if (iterator == nullptr || iterator->table_ != this) return nullptr;
   const void* const object = iterator->get();
@@ -154,6 +194,7 @@ KYRHashtable& KYRHashtable::operator=(const KYRHashtable& other) {
     std::swap(count_, with.count_);
     std::swap(firstSlot_, with.firstSlot_);
     addresses_.swap(with.addresses_);
+    std::swap(isWaiting_, with.isWaiting_);
   };
   // The old content waits aside; whatever stands here at the end of an unfinished copy is dropped.
   KYRHashtable aside(static_cast<int>(smallestTable));
@@ -220,6 +261,7 @@ std::uint32_t* KYRHashtable::bucketOf(std::uint32_t hash) noexcept {
 
 template <class IsEqual>
 std::uint32_t KYRHashtable::findLeader(std::uint32_t hash, IsEqual isEqual) const {
+  requireHashes();
   if (buckets_.empty()) return none;
   std::uint32_t slot = *const_cast<KYRHashtable*>(this)->bucketOf(hash);
   while (slot != none && !(entries_[slot].hash == hash && isEqual(entries_[slot].object))) {

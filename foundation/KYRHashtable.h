@@ -7,6 +7,7 @@
 //   own behind the first, so neither lookups nor adding slow down when many objects share a key.
 // - An object that compares as different even from itself (one without an id) can never be found;
 //   it is kept for walks and stays out of the chains.
+// - A table that is mostly walked may put hashing off until somebody looks something up.
 #pragma once
 
 #include <cstddef>
@@ -18,8 +19,12 @@
 
 class KYR_EXPORT KYRHashtable : public KYRContainer {
  public:
+  /// When objects are hashed: as they are added, or all together at the first operation that needs a
+  /// key. Until then their keys must not change; whatever hashing raises comes out of that operation.
+  enum class Hashing { atAdd, atFirstLookup };
+
   /// A table of about `bucketCount` buckets, which grows with its content.
-  explicit KYRHashtable(int bucketCount);
+  explicit KYRHashtable(int bucketCount, Hashing hashing = Hashing::atAdd);
   /// Shares the object pointers. The chains are copied as they are, so the copy must hash and compare
   /// as `other` does.
   KYRHashtable(const KYRHashtable& other);
@@ -96,6 +101,9 @@ class KYR_EXPORT KYRHashtable : public KYRContainer {
     std::uint32_t lastEqual;  // leader: the last of its equals (alone: itself); else none
   };
 
+  void makeRoomForOne();
+  void hashWaiting();
+  void requireHashes() const;
   std::uint32_t* bucketOf(std::uint32_t hash) noexcept;
   template <class IsEqual>
   std::uint32_t findLeader(std::uint32_t hash, IsEqual isEqual) const;
@@ -114,4 +122,6 @@ class KYR_EXPORT KYRHashtable : public KYRContainer {
   std::uint32_t count_ = 0;
   std::uint32_t firstSlot_ = 0;  // no object stands before it
   std::unique_ptr<AddressIndex> addresses_;
+  Hashing hashing_;
+  bool isWaiting_ = false;  // the objects stand in entries_ and are in no chain yet
 };

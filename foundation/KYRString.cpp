@@ -3,7 +3,6 @@
 #include "foundation/KYRString.h"
 
 #include <algorithm>
-#include <bit>
 #include <cassert>
 #include <charconv>
 #include <climits>
@@ -11,6 +10,8 @@
 #include <limits>
 #include <new>
 #include <stdexcept>
+
+#include "foundation/TextHash.h"
 
 static_assert(sizeof(KYRString) == 16, "objects of a model hold many texts, most of them empty");
 
@@ -37,37 +38,6 @@ bool equalTexts(std::string_view first, std::string_view second, bool caseSensit
 // Positions are ints, so a match beyond their range cannot be told and counts as none.
 int position(std::size_t found) noexcept {
   return found > static_cast<std::size_t>(INT_MAX) ? -1 : static_cast<int>(found);
-}
-
-// Little-endian loads, so that a hash is the same number on every machine.
-template <class Word>
-std::uint64_t load(const char* bytes) noexcept {
-  Word word;
-  std::memcpy(&word, bytes, sizeof word);
-  if constexpr (std::endian::native == std::endian::big) {
-    if constexpr (sizeof(Word) == 8) word = __builtin_bswap64(word);
-    if constexpr (sizeof(Word) == 4) word = __builtin_bswap32(word);
-  }
-  return word;
-}
-
-// Reversible for a given `word`, and so for a given `hash`: texts that differ in one word only never
-// meet in 64 bits.
-std::uint64_t mix(std::uint64_t hash, std::uint64_t word) noexcept {
-  hash = (hash ^ word) * 0x9E3779B97F4A7C15U;
-  return hash ^ (hash >> 32);
-}
-
-// The last 1 to 8 bytes as one word. Two overlapping loads spare a loop; since the length takes part
-// in the hash too, no two texts of one length give the same word.
-std::uint64_t loadTail(const char* bytes, std::size_t length) noexcept {
-  if (length >= 4) {
-    return load<std::uint32_t>(bytes) | (load<std::uint32_t>(bytes + length - 4) << 32);
-  }
-  const auto byte = [bytes](std::size_t index) -> std::uint64_t {
-    return static_cast<unsigned char>(bytes[index]);
-  };
-  return byte(0) | (byte(length / 2) << 8) | (byte(length - 1) << 16);
 }
 
 }  // namespace
@@ -282,13 +252,7 @@ KYRString operator+(const KYRString& first, const KYRString& second) {
 unsigned int stringHashCode(const char* text) noexcept { return stringHashCode(viewOf(text)); }
 
 unsigned int stringHashCode(std::string_view text) noexcept {
-  const char* bytes = text.data();
-  std::size_t length = text.size();
-  std::uint64_t hash = length * 0xD6E8FEB86659FD93U;
-  for (; length > 8; bytes += 8, length -= 8) hash = mix(hash, load<std::uint64_t>(bytes));
-  if (length != 0) hash = mix(hash, loadTail(bytes, length));
-  hash *= 0x9E3779B97F4A7C15U;  // carries the last word into the half that is kept
-  return static_cast<unsigned int>(hash >> 32);
+  return static_cast<unsigned int>(TextHash::of(text, TextHash::seed()) >> 32);
 }
 
 int parseInt(std::string_view text) noexcept {

@@ -108,8 +108,8 @@ inline bool operator!=(const KYRString& first, const KYRString& second) noexcept
   return first.view() != second.view();
 }
 
-/// A deterministic hash of the characters up to the zero. Equal texts give equal codes, on every
-/// machine and in every run.
+/// A deterministic hash of the characters up to the zero: equal texts give equal codes for as long as the
+/// process runs. Another run draws another seed, so that no file can be made whose ids collide.
 KYR_EXPORT unsigned int stringHashCode(const char* text) noexcept;
 /// The same for a text of known length.
 KYR_EXPORT unsigned int stringHashCode(std::string_view text) noexcept;

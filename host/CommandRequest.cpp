@@ -78,6 +78,7 @@ void Definition::defineImport() {
       ->check(CLI::Validator(checkTime, ""));
   addEncoding(command);
   command.add_flag("-q,--quiet", settings.isQuiet, textOf(IMPORT_HELP_QUIET));
+  command.add_flag("--timing", settings.withTiming, textOf(IMPORT_HELP_TIMING));
   defineLogFormat(command);
   command.add_option("--log-file", settings.logFile, textOf(IMPORT_HELP_LOG_FILE))->type_name("PATH");
   addPlugin(command, settings.plugin);

@@ -12,6 +12,7 @@
 #include "host/FileNames.h"
 #include "host/KYRHostMessages.h"
 #include "host/KYRHostTexts.h"
+#include "host/PhaseReport.h"
 #include "host/PluginLibrary.h"
 #include "host/SavedModelCounts.h"
 #include "host/TextOut.h"
@@ -54,10 +55,11 @@ int ImportCommand::run() {
   KYROptionList options;
   fillOptions(options);
   KYRFile target{KYRString(target_)};
+  const PhaseReport phases(settings_.withTiming);
   if (!library_.getPlugin().run(originId, target, options, log_)) {
     KYRHostMessages::PLUGIN_REFUSED.throwException();
   }
-  if (!settings_.isQuiet) writeSummary(std::chrono::duration<double>(Clock::now() - start).count());
+  if (!settings_.isQuiet) writeSummary(std::chrono::duration<double>(Clock::now() - start).count(), phases);
   return ExitCode::done;
 }
 
@@ -97,7 +99,7 @@ void ImportCommand::setOption(KYROptionList& options, const char* identifier, co
   option->setValue(KYRString(value));
 }
 
-void ImportCommand::writeSummary(double seconds) {
+void ImportCommand::writeSummary(double seconds, const PhaseReport& phases) {
   const std::optional<SavedModelCounts> counts = SavedModelCounts::read(target_);
   if (settings_.format == HostLog::Format::json) {
     JsonOut json;
@@ -105,13 +107,16 @@ void ImportCommand::writeSummary(double seconds) {
     json.key("output").text(target_);
     json.key("seconds").real(seconds);
     if (counts.has_value()) countsToJson(json, *counts);
+    phases.write(json);
     json.endObject();
     output_.write(json.endLine());
     return;
   }
   TextOut out(output_);
   out.line(KYRHostTexts::SUMMARY, target_, inSeconds(seconds));
-  if (!counts.has_value()) return;
-  out.line(KYRHostTexts::SUMMARY_COUNTS, counts->packages, counts->classes, counts->interfaces,
-           counts->attributes, counts->operations, counts->arguments);
+  if (counts.has_value()) {
+    out.line(KYRHostTexts::SUMMARY_COUNTS, counts->packages, counts->classes, counts->interfaces,
+             counts->attributes, counts->operations, counts->arguments);
+  }
+  phases.write(out);
 }

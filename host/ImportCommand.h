@@ -7,6 +7,7 @@
 #include "host/Output.h"
 
 class KYROptionList;
+class PhaseReport;
 class PluginLibrary;
 
 class ImportCommand {
@@ -19,6 +20,7 @@ class ImportCommand {
     std::string plugin;            // empty: the one of this installation
     std::string logFile;           // empty: none
     bool isQuiet = false;
+    bool withTiming = false;
     HostLog::Format format = HostLog::Format::text;
   };
 
@@ -32,7 +34,7 @@ class ImportCommand {
   bool filesClash();
   void fillOptions(KYROptionList& options);
   void setOption(KYROptionList& options, const char* identifier, const std::string& value);
-  void writeSummary(double seconds);
+  void writeSummary(double seconds, const PhaseReport& phases);
 
   Settings settings_;
   PluginLibrary& library_;

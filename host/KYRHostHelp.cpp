@@ -56,6 +56,8 @@ const HostText<0> IMPORT_HELP_MODIFICATION_TIME(
     "same file then gives the same bytes");
 const HostText<0> IMPORT_HELP_QUIET("IMPORT_HELP_QUIET",
                                     "Print warnings and errors only: no STATUS lines and no summary");
+const HostText<0> IMPORT_HELP_TIMING("IMPORT_HELP_TIMING",
+                                     "Tell in the summary what processor time each phase took");
 const HostText<0> IMPORT_HELP_LOG_FORMAT(
     "IMPORT_HELP_LOG_FORMAT",
     "text: lines to read. json: one JSON object a line with \"level\", \"code\" and \"text\", and the "

@@ -12,6 +12,8 @@ const HostText<6> SUMMARY_COUNTS(
     "SUMMARY_COUNTS",
     "packages {0}, classes {1}, interfaces {2}, attributes {3}, operations {4}, arguments {5}");
 
+const HostText<2> SUMMARY_PHASE("SUMMARY_PHASE", "{0} s  {1}");
+
 const HostText<1> DIAGRAM_WRITTEN("DIAGRAM_WRITTEN", "Wrote '{0}'");
 
 const HostText<1> INFO_VERSION("INFO_VERSION", "Version:      {0}");

@@ -24,6 +24,7 @@ extern const HostText<0> IMPORT_HELP_OUTPUT;
 extern const HostText<0> IMPORT_HELP_ROOT_PACKAGE;
 extern const HostText<0> IMPORT_HELP_MODIFICATION_TIME;
 extern const HostText<0> IMPORT_HELP_QUIET;
+extern const HostText<0> IMPORT_HELP_TIMING;
 extern const HostText<0> IMPORT_HELP_LOG_FORMAT;
 extern const HostText<0> IMPORT_HELP_LOG_FILE;
 
@@ -52,6 +53,8 @@ extern const HostText<1> NOT_A_TIME;
 // The closing summary of an import: output file, seconds, and the counts.
 extern const HostText<2> SUMMARY;
 extern const HostText<6> SUMMARY_COUNTS;
+/// With --timing: seconds and phase.
+extern const HostText<2> SUMMARY_PHASE;
 
 /// One line of `kyr diagram` for each picture.
 extern const HostText<1> DIAGRAM_WRITTEN;

@@ -11,7 +11,8 @@ class UMLElement;
 
 class UMLObjectTable : public KYRHashtable {
  public:
-  explicit UMLObjectTable(int bucketCount) : KYRHashtable(bucketCount) {}
+  /// Imports walk the table and find references by number, so ids are hashed only when somebody asks.
+  explicit UMLObjectTable(int bucketCount) : KYRHashtable(bucketCount, Hashing::atFirstLookup) {}
   /// The object at a position in order of reading.
   UMLElement* at(unsigned int index) const noexcept;
   /// The first object of that id, or null.

@@ -2,6 +2,7 @@
 #include "xmi/XMIParser.h"
 
 #include "bridge/messages/KBI_UML2XMI.h"
+#include "foundation/KYRPhaseTimes.h"
 #include "uml/UMLClasses.h"
 #include "uml/UMLMetamodel.h"
 #include "xmi/DispatchRows.h"
@@ -51,8 +52,12 @@ UMLModel* XMIParser::parse(const KYRFile& input) {
     parser->parseFile(file);
     if (!modelSeen) KBI_UML2XMI::UML2_I_BAD_HEADERUML2_ERROR.throwException();
     reportUnknownTags();
-    resolveLinks();
-    attachComments();
+    {
+      const KYRPhaseTimer timer(KYRPhase::link);
+      resolveLinks();
+      attachComments();
+    }
+    const KYRPhaseTimer timer(KYRPhase::extension);
     runToolExtension();
   } catch (...) {
     cleanUp();
@@ -110,6 +115,7 @@ void XMIParser::resolveLinks() {
 }
 
 void XMIParser::cleanUp() noexcept {
+  const KYRPhaseTimer timer(KYRPhase::release);
   elementStack.clear();
   handlerStack.clear();
   pendingLinks.clear();

@@ -18,7 +18,7 @@ constexpr int unplacedBuckets = 16;
 
 KYROmgUml2XmiImportBridge::KYROmgUml2XmiImportBridge(KYRLog* importLog)
     : log(importLog),
-      objects(objectBuckets),
+      objects(objectBuckets, KYRHashtable::Hashing::atFirstLookup),
       owners(recordBuckets),
       mdObjects(recordBuckets),
       unplacedObjects(unplacedBuckets) {}

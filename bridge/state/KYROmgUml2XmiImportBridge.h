@@ -39,7 +39,8 @@ struct Point2D;
 
 class KYROmgUml2XmiImportBridge {
  public:
-  /// Repository objects by `sourceId`. Ids are case-sensitive.
+  /// Repository objects by `sourceId`. Ids are case-sensitive. Few files have anything that looks objects
+  /// up, so they are hashed when something does; no object changes its id while it is in the table.
   class ID2ObjectHashtable : public TextKeyHashtable<KYRObject, &KYRObject::sourceId> {
    public:
     using TextKeyHashtable::TextKeyHashtable;

@@ -1,22 +1,25 @@
-// XmlBlockArray<T>: an array that grows by blocks.
+// XmlBlockArray<T>: an array that grows by blocks, each as large as all before it together.
 //
-// Nothing is ever moved, so references stay valid, growing needs no room for two copies, and at most
-// one block stands partly empty. T is a plain record or a KYRString that borrows: nothing that would
-// need its destructor, so the blocks are given back as they are.
+// Nothing is ever moved, so references stay valid and growing needs no room for two copies. The system
+// gives memory to a block only as it is filled, so a half empty one costs little. Since neither the
+// blocks nor their directory move, one thread may read elements that it knows to be there while
+// another appends. T is a plain record or a KYRString that borrows: nothing that would need its
+// destructor, so the blocks are given back as they are.
 #pragma once
 
+#include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <new>
 #include <utility>
-#include <vector>
 
 template <class T>
 class XmlBlockArray {
  public:
-  static constexpr std::size_t blockShift = 12;
-  static constexpr std::size_t blockSize = std::size_t{1} << blockShift;
+  static constexpr std::size_t firstBlockShift = 10;
+  static constexpr std::size_t firstBlockSize = std::size_t{1} << firstBlockShift;
 
   std::size_t size() const noexcept { return size_; }
   const T& operator[](std::size_t index) const noexcept { return *at(index); }
@@ -35,24 +38,36 @@ class XmlBlockArray {
     ++size_;
     return *added;
   }
-  std::size_t getMemorySize() const noexcept { return blocks_.size() * blockSize * sizeof(T); }
+  /// Bytes of the elements.
+  std::size_t getMemorySize() const noexcept { return size_ * sizeof(T); }
 
  private:
   struct Release {
     void operator()(T* block) const noexcept { ::operator delete(block); }
   };
-  using Block = std::unique_ptr<T, Release>;
+  // Block 0 holds the first 2^10 elements, block n those from 2^(9+n) on.
+  static constexpr std::size_t blockCount = 64 - firstBlockShift;
+
+  static std::size_t blockOf(std::size_t index) noexcept {
+    return static_cast<std::size_t>(std::bit_width(index >> firstBlockShift));
+  }
+  static std::size_t firstOf(std::size_t block) noexcept {
+    return block == 0 ? 0 : firstBlockSize << (block - 1);
+  }
 
   T* makeRoom() {
-    if ((size_ >> blockShift) == blocks_.size()) {
-      blocks_.push_back(Block(static_cast<T*>(::operator new(blockSize * sizeof(T)))));
+    const std::size_t block = blockOf(size_);
+    if (blocks_[block] == nullptr) {
+      const std::size_t size = block == 0 ? firstBlockSize : firstOf(block);
+      blocks_[block].reset(static_cast<T*>(::operator new(size * sizeof(T))));
     }
     return at(size_);
   }
   T* at(std::size_t index) const noexcept {
-    return blocks_[index >> blockShift].get() + (index & (blockSize - 1));
+    const std::size_t block = blockOf(index);
+    return blocks_[block].get() + (index - firstOf(block));
   }
 
-  std::vector<Block> blocks_;
+  std::array<std::unique_ptr<T, Release>, blockCount> blocks_;
   std::size_t size_ = 0;
 };

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <limits>
 
-#include "foundation/xml/XmlTextHash.h"
+#include "foundation/TextHash.h"
 
 namespace {
 
@@ -80,13 +80,13 @@ void XmlDocumentBuilder::appendNode(XmlDocument::Name name, std::uint32_t lineOr
 
 std::uint32_t XmlDocumentBuilder::storeText(std::string_view text) {
   if (text.size() > longestRecentText) return addText(text);
-  const std::uint64_t hash = XmlTextHash::of(text, 0);
+  const std::uint64_t hash = TextHash::of(text, 0);
   const auto check = static_cast<std::uint32_t>(hash >> 32);
   RecentText& recent = recentTexts_[hash % recentTextCount];
   if (recent.hash == check) {
     const KYRString& known = document_->texts_[recent.number];
     if (known.getLength() == text.size() &&
-        XmlTextHash::areEqual(known.getCharacters(), text.data(), text.size())) {
+        TextHash::areEqual(known.getCharacters(), text.data(), text.size())) {
       return recent.number;
     }
   }

@@ -16,3 +16,7 @@ KYR_EXPORT std::shared_ptr<const XmlDocument> readXmlFile(const KYRFile& file, X
 /// The document of any other input; the cache plays no part.
 KYR_EXPORT std::shared_ptr<const XmlDocument> readXmlInput(
     XmlInput& input, XmlDocumentListener* listener, std::size_t blockSize = XmlTokenizer::defaultBlockSize);
+/// The same with the same events, on the caller's thread, while another thread reads ahead. Processing
+/// instructions are not told of.
+KYR_EXPORT std::shared_ptr<const XmlDocument> readXmlInputAhead(XmlInput& input,
+                                                                XmlDocumentListener& listener);

@@ -1,32 +1,22 @@
 // Open addressing behind a small direct-mapped cache of the names met last.
 #include "foundation/xml/XmlNameTable.h"
 
-#include <random>
-
-#include "foundation/xml/XmlTextHash.h"
+#include "foundation/TextHash.h"
 
 namespace {
 
 constexpr std::size_t firstSlots = 512;
 
-std::uint64_t makeSeed() {
-  static const std::uint64_t seed = [] {
-    std::random_device source;
-    return (std::uint64_t{source()} << 32) | source();
-  }();
-  return seed;
-}
-
 bool isName(const char* characters, std::size_t length, std::string_view name) noexcept {
-  return length == name.size() && XmlTextHash::areEqual(characters, name.data(), length);
+  return length == name.size() && TextHash::areEqual(characters, name.data(), length);
 }
 
 }  // namespace
 
-XmlNameTable::XmlNameTable() : slots_(firstSlots), seed_(makeSeed()) {}
+XmlNameTable::XmlNameTable() : slots_(firstSlots), seed_(TextHash::seed()) {}
 
 std::uint32_t XmlNameTable::hashOf(std::string_view name) const noexcept {
-  return static_cast<std::uint32_t>(XmlTextHash::of(name, seed_));
+  return static_cast<std::uint32_t>(TextHash::of(name, seed_));
 }
 
 const XmlNameTable::Slot& XmlNameTable::findSlot(std::string_view name, std::uint32_t hash) const noexcept {

@@ -1,12 +1,16 @@
 // The root of everything that a bridge builds.
 #include "repository/model/KYRStoreModel.h"
 
+#include "foundation/KYRPhaseTimes.h"
 #include "repository/KYRRepositoryMessages.h"
 #include "repository/model/KYRDataPackage.h"
 #include "repository/model/KYRDesignPackage.h"
 #include "repository/model/KYRLinks.h"
 
-KYRStoreModel::~KYRStoreModel() { dissolve(); }
+KYRStoreModel::~KYRStoreModel() {
+  const KYRPhaseTimer timer(KYRPhase::release);
+  dissolve();
+}
 
 void KYRStoreModel::addDesignPackage(KYRDesignPackage* package) {
   KYRLinks::own(designPackages, this, KYRLinks::required(package));

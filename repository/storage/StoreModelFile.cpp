@@ -6,6 +6,7 @@
 
 #include <string>
 
+#include "foundation/KYRPhaseTimes.h"
 #include "repository/KYRRepositoryMessages.h"
 #include "repository/storage/BlockInput.h"
 #include "repository/storage/JsonStoreModelWriter.h"
@@ -60,6 +61,7 @@ class JsonEvents {
 }  // namespace
 
 void saveStoreModelFile(const KYRFile& file, const KYRStoreModel& model) {
+  const KYRPhaseTimer timer(KYRPhase::save);
   ReplacedFile output(file);
   JsonStoreModelWriter writer(output);
   writeStoreModel(model, writer);

@@ -25,7 +25,8 @@ struct Item {
 // Items by id. An item without an id differs from everything, itself included.
 class ItemTable : public KYRHashtable {
  public:
-  explicit ItemTable(int bucketCount = 0) : KYRHashtable(bucketCount) {}
+  explicit ItemTable(int bucketCount = 0, Hashing hashing = Hashing::atAdd)
+      : KYRHashtable(bucketCount, hashing) {}
   int compare2Object(const void* first, const void* second) const override {
     return compare2Key(first, &item(second)->id);
   }
@@ -471,12 +472,60 @@ TEST_F(KYRHashtableTest, RemovalWorksWhenMemoryIsShort) {
   EXPECT_EQ(table.getSlotCount(), 3U);  // the gaps go with the next removal
 }
 
+TEST_F(KYRHashtableTest, ATableThatPutsHashingOffIsWalkedForNothing) {
+  constexpr int count = 1000;
+  ItemTable table(0, KYRHashtable::Hashing::atFirstLookup);
+  const auto added = fill(table, count);
+  EXPECT_EQ(contentOf(table), added);
+  EXPECT_EQ(table.calls, 0U);
+  EXPECT_EQ(table.find("id7"), added[7]);
+  const std::uint64_t calls = table.calls;
+  EXPECT_LT(calls, 10U * count);
+  EXPECT_EQ(table.find("id8"), added[8]);
+  EXPECT_LT(table.calls - calls, 10U);  // all is hashed by now
+  EXPECT_EQ(contentOf(table), added);
+}
+
+TEST_F(KYRHashtableTest, WhatHashingRaisesLaterComesOutOfTheLookupAndLeavesTheTable) {
+  ItemTable table(0, KYRHashtable::Hashing::atFirstLookup);
+  const auto added = fill(table, 20);
+  for (std::int64_t raise = 0;; ++raise) {
+    table.callsBeforeRaise = raise;
+    try {
+      EXPECT_EQ(table.find("id7"), added[7]);
+      break;
+    } catch (const std::runtime_error&) {
+    }
+    table.callsBeforeRaise = -1;
+    ASSERT_EQ(contentOf(table), added);
+  }
+  table.callsBeforeRaise = -1;
+  EXPECT_FALSE(table.add(make(7), true, nullptr));
+}
+
+TEST_F(KYRHashtableTest, ALookupWithoutMemoryToHashLeavesTheTable) {
+  ItemTable table(0, KYRHashtable::Hashing::atFirstLookup);
+  const auto added = fill(table, 300);
+  std::size_t failure = 0;
+  for (;; ++failure) {
+    try {
+      const AllocationFailure failing(failure);
+      table.contains(added[7], nullptr);
+      break;
+    } catch (const std::bad_alloc&) {
+    }
+    ASSERT_EQ(contentOf(table), added);
+  }
+  EXPECT_GT(failure, 0U);
+  EXPECT_EQ(table.find("id299"), added[299]);
+}
+
 // Many seeded steps beside a plain list: few keys, so that equals, leaders and chains all take part.
 TEST_F(KYRHashtableTest, BehavesAsAPlainListUnderRandomSteps) {
-  for (const bool allMeet : {false, true}) {
-    std::mt19937 random(allMeet ? 1 : 2);
-    ItemTable table;
-    table.allMeet = allMeet;
+  for (const unsigned int variant : {0U, 1U, 2U, 3U}) {
+    std::mt19937 random(variant);
+    ItemTable table(0, variant < 2 ? KYRHashtable::Hashing::atAdd : KYRHashtable::Hashing::atFirstLookup);
+    table.allMeet = variant % 2 == 1;
     std::vector<const Item*> model;
     std::vector<const Item*> removed;
     const auto firstOf = [&model](const KYRString& id) {
@@ -529,7 +578,11 @@ TEST_F(KYRHashtableTest, BehavesAsAPlainListUnderRandomSteps) {
       } else if (action < 65) {
         ItemTable copy(table);
         table.empty();
-        table = copy;
+        if (random() % 2 == 0) {
+          table = copy;
+        } else {
+          for (const Item* item : model) table.add(item, false, nullptr);
+        }
         ASSERT_TRUE(table == copy);
       } else {
         ASSERT_EQ(table.find(id), first == model.end() ? nullptr : *first);

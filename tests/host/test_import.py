@@ -238,6 +238,17 @@ class Log(CommandTest):
         self.assertEqual(summary, {"packages": 1, "classes": 2, "interfaces": 0, "attributes": 1,
                                    "operations": 1, "arguments": 1})
 
+    def test_timing_tells_the_phases_in_text_and_json(self):
+        phases = ["tokenise", "objects", "link", "extension", "convert", "finish", "save", "release"]
+        lines = self.kyr("import", SMALL, "--timing").output.splitlines()[2:]
+        self.assertEqual([line.split()[-1] for line in lines], phases)
+        for line in lines:
+            self.assertRegex(line, r"^ *\d+\.\d{3} s  [a-z]+$")
+        summary = json.loads(self.kyr("import", SMALL, "--timing", "--log-format", "json").output)
+        self.assertEqual(list(summary["phases"]), phases)
+        self.assertTrue(all(seconds >= 0 for seconds in summary["phases"].values()))
+        self.assertNotIn("phases", json.loads(self.kyr("import", SMALL, "--log-format", "json").output))
+
     def test_quiet_leaves_the_warnings(self):
         for flag in ("-q", "--quiet"):
             result = self.kyr("import", SMALL, flag)

@@ -1,4 +1,8 @@
-// The hash by which names and repeated texts of a document are found.
+// The hash of texts, and the comparison that goes with it.
+//
+// Ids and names come from files that anybody may have written. A file whose ids were chosen to meet in
+// one bucket would make every lookup a walk, so tables hash with a seed that is drawn once for each
+// process. Nothing that leaves the process depends on it: our tables are walked in insertion order.
 #pragma once
 
 #include <bit>
@@ -7,7 +11,12 @@
 #include <cstring>
 #include <string_view>
 
-namespace XmlTextHash {
+#include "foundation/Export.h"
+
+namespace TextHash {
+
+/// The seed of this process.
+KYR_EXPORT std::uint64_t seed() noexcept;
 
 template <class Word>
 std::uint64_t load(const char* bytes) noexcept {
@@ -65,4 +74,4 @@ inline bool areEqual(const char* first, const char* second, std::size_t length) 
   return load<std::uint64_t>(first + length - 8) == load<std::uint64_t>(second + length - 8);
 }
 
-}  // namespace XmlTextHash
+}  // namespace TextHash
