@@ -10,6 +10,7 @@ namespace bench {
 namespace {
 
 constexpr std::uint64_t linkedClasses = 1000;
+constexpr std::uint64_t attributesOfClass = 20;
 
 void openModel(XmlWriter& writer) {
   writer.raw("<?xml version=\"1.0\" encoding=\"UTF-8\"?>");
@@ -30,6 +31,27 @@ void openPackage(XmlWriter& writer, std::string_view id) {
 }
 
 std::string classId(std::uint64_t number) { return "c" + std::to_string(number); }
+
+std::string typeId(std::uint64_t number) { return "t" + std::to_string(number); }
+
+/// A package of classes with `count` attributes in all, the types one after the other.
+void writeAttributes(XmlWriter& writer, std::uint64_t count, std::uint64_t types) {
+  openPackage(writer, "p");
+  for (std::uint64_t i = 0; i < count; ++i) {
+    if (i % attributesOfClass == 0) {
+      const std::uint64_t number = i / attributesOfClass;
+      writer.start("packagedElement", {{"xmi:type", "uml:Class"},
+                                       {"xmi:id", classId(number)},
+                                       {"name", "Class" + std::to_string(number)}});
+    }
+    writer.leaf("ownedAttribute", {{"xmi:type", "uml:Property"},
+                                   {"xmi:id", "a" + std::to_string(i)},
+                                   {"name", "attribute" + std::to_string(i)},
+                                   {"type", typeId(i % types)}});
+    if ((i + 1) % attributesOfClass == 0 || i + 1 == count) writer.end();
+  }
+  writer.end();
+}
 
 }  // namespace
 
@@ -60,6 +82,33 @@ void writeManyLinks(XmlWriter& writer, std::uint64_t count, std::uint64_t seed) 
                                     {"client", classId(client)}});
   }
   writer.end();
+  closeModel(writer);
+}
+
+void writeManyTypes(XmlWriter& writer, std::uint64_t count, std::uint64_t types) {
+  openModel(writer);
+  openPackage(writer, "types");
+  for (std::uint64_t i = 0; i < types; ++i)
+    writer.leaf("packagedElement", {{"xmi:type", i % 2 == 0 ? "uml:DataType" : "uml:Class"},
+                                    {"xmi:id", typeId(i)},
+                                    {"name", "Type" + std::to_string(i)}});
+  writer.end();
+  writeAttributes(writer, count, types);
+  closeModel(writer);
+}
+
+void writeSharedEnumeration(XmlWriter& writer, std::uint64_t count, std::uint64_t literals) {
+  openModel(writer);
+  openPackage(writer, "types");
+  writer.start("packagedElement",
+               {{"xmi:type", "uml:Enumeration"}, {"xmi:id", typeId(0)}, {"name", "State"}});
+  for (std::uint64_t i = 0; i < literals; ++i)
+    writer.leaf("ownedLiteral", {{"xmi:type", "uml:EnumerationLiteral"},
+                                 {"xmi:id", "l" + std::to_string(i)},
+                                 {"name", "state" + std::to_string(i)}});
+  writer.end();
+  writer.end();
+  writeAttributes(writer, count, 1);
   closeModel(writer);
 }
 

@@ -1,5 +1,5 @@
-// Files that stress one thing each: many classes in one name space, many references, depth, one huge
-// attribute, entities that multiply.
+// Files that stress one thing each: many classes in one name space, many references, many types, depth,
+// one huge attribute, entities that multiply.
 #pragma once
 
 #include <cstdint>
@@ -12,6 +12,10 @@ namespace bench {
 void writeManyClasses(XmlWriter& writer, std::uint64_t count, bool sameName);
 /// `count` references between 1,000 classes; half of them start at one class.
 void writeManyLinks(XmlWriter& writer, std::uint64_t count, std::uint64_t seed);
+/// `count` attributes whose types are `types` data types and classes in turn.
+void writeManyTypes(XmlWriter& writer, std::uint64_t count, std::uint64_t types);
+/// `count` attributes of one enumeration that has `literals` literals.
+void writeSharedEnumeration(XmlWriter& writer, std::uint64_t count, std::uint64_t literals);
 /// Packages nested so deep that the document has `depth` levels.
 void writeDeepNesting(XmlWriter& writer, std::uint64_t depth);
 /// A comment whose body attribute has `size` bytes.

@@ -21,6 +21,7 @@ struct Options {
   double sizeMb = 1;
   std::uint64_t seed = 1;
   std::uint64_t count = 100000;
+  std::uint64_t types = 5000;
   std::uint64_t depth = 50000;
   bool sameName = false;
 
@@ -37,6 +38,8 @@ const std::map<std::string, std::function<void(XmlWriter&, const Options&)>>& sp
   static const std::map<std::string, std::function<void(XmlWriter&, const Options&)>> table = {
       {"classes", [](XmlWriter& w, const Options& o) { writeManyClasses(w, o.count, o.sameName); }},
       {"links", [](XmlWriter& w, const Options& o) { writeManyLinks(w, o.count, o.seed); }},
+      {"types", [](XmlWriter& w, const Options& o) { writeManyTypes(w, o.count, o.types); }},
+      {"enumeration", [](XmlWriter& w, const Options& o) { writeSharedEnumeration(w, o.count, o.types); }},
       {"deep", [](XmlWriter& w, const Options& o) { writeDeepNesting(w, o.depth); }},
       {"attribute", [](XmlWriter& w, const Options& o) { writeHugeAttribute(w, o.bytes()); }},
       {"bomb", [](XmlWriter& w, const Options&) { writeEntityBomb(w); }}};
@@ -79,7 +82,10 @@ int main(int argc, char** argv) {
       ->check(CLI::PositiveNumber)
       ->capture_default_str();
   app.add_option("--seed", options.seed, "Same seed, same bytes")->capture_default_str();
-  app.add_option("--count", options.count, "Number of classes or links")->capture_default_str();
+  app.add_option("--count", options.count, "Number of classes, links or attributes")->capture_default_str();
+  app.add_option("--types", options.types, "Number of types of the kind types, of literals of enumeration")
+      ->check(CLI::PositiveNumber)
+      ->capture_default_str();
   app.add_option("--depth", options.depth, "Levels of the kind deep")->capture_default_str();
   app.add_flag("--same-name", options.sameName, "Give all classes one name");
   app.add_option("-o,--output", options.file, "File to write")->required();

@@ -20,18 +20,25 @@ KINDS = ("plain", "ea", "magicdraw")
 SIZES = (1, 10, 100)
 MODIFICATION_TIME = "2026-01-01T00:00:00Z"
 
-# (what it shows, arguments of the generator)
+# (what it shows, arguments of the generator, which row it is ten times as much of)
 SPECIAL = (
-    ("100,000 classes in one package", ["--kind", "classes", "--count", "100000"]),
-    ("100,000 classes of one name", ["--kind", "classes", "--count", "100000", "--same-name"]),
-    ("1,000,000 classes in one package", ["--kind", "classes", "--count", "1000000"]),
-    ("100,000 links", ["--kind", "links", "--count", "100000"]),
-    ("1,000,000 links", ["--kind", "links", "--count", "1000000"]),
-    ("1,000 levels deep", ["--kind", "deep", "--depth", "1000"]),
-    ("50,000 levels deep", ["--kind", "deep", "--depth", "50000"]),
-    ("an attribute of 50 MB", ["--kind", "attribute", "--size-mb", "50"]),
-    ("an attribute of 100 MB", ["--kind", "attribute", "--size-mb", "100"]),
-    ("an entity bomb", ["--kind", "bomb"]),
+    ("100,000 classes in one package", ["--kind", "classes", "--count", "100000"], None),
+    ("100,000 classes of one name", ["--kind", "classes", "--count", "100000", "--same-name"], None),
+    ("1,000,000 classes in one package", ["--kind", "classes", "--count", "1000000"],
+     "100,000 classes in one package"),
+    ("100,000 links", ["--kind", "links", "--count", "100000"], None),
+    ("1,000,000 links", ["--kind", "links", "--count", "1000000"], "100,000 links"),
+    ("100,000 attributes, 5,000 types", ["--kind", "types", "--count", "100000", "--types", "5000"], None),
+    ("1,000,000 attributes, 50,000 types", ["--kind", "types", "--count", "1000000", "--types", "50000"],
+     "100,000 attributes, 5,000 types"),
+    ("50,000 uses of 1,000 literals", ["--kind", "enumeration", "--count", "50000", "--types", "1000"], None),
+    ("500,000 uses of 10,000 literals", ["--kind", "enumeration", "--count", "500000", "--types", "10000"],
+     "50,000 uses of 1,000 literals"),
+    ("1,000 levels deep", ["--kind", "deep", "--depth", "1000"], None),
+    ("50,000 levels deep", ["--kind", "deep", "--depth", "50000"], None),
+    ("an attribute of 50 MB", ["--kind", "attribute", "--size-mb", "50"], None),
+    ("an attribute of 100 MB", ["--kind", "attribute", "--size-mb", "100"], None),
+    ("an entity bomb", ["--kind", "bomb"], None),
 )
 
 
@@ -147,16 +154,19 @@ def bench_sizes(bench, kinds, sizes):
 
 
 def bench_special(bench):
-    widths = (34, 7, 8, 8, 6, 9)
+    widths = (34, 7, 8, 8, 6, 9, 13)
     print()
-    print_row(("special file", "MB", "expat s", "import s", "ratio", "peak MB"), widths)
-    for title, options in SPECIAL:
+    print_row(("special file", "MB", "expat s", "import s", "ratio", "peak MB", "growth import"), widths)
+    seconds = {}
+    for title, options, tenth in SPECIAL:
         path = bench.generate(options)
         expat, run = bench.expat_seconds(path), bench.import_run(path)
+        seconds[title] = run.seconds
         print_row((title, f"{path.stat().st_size / 1e6:.1f}", "-" if expat is None else f"{expat:.3f}",
                    f"{run.seconds:.3f}",
                    f"{run.seconds / expat:.2f}" if expat and run.code == 0 else "-",
-                   bench.peak_text(run, 1e6, 0)), widths)
+                   bench.peak_text(run, 1e6, 0),
+                   f"{run.seconds / seconds[tenth]:.1f}" if tenth and run.code == 0 else ""), widths)
         if run.code != 0:
             print("    " + error_of(run))
 

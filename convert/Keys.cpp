@@ -93,7 +93,8 @@ void KYROmgUml2XmiImportBridge::addPrimaryKeyAttribute(const KYRString& keyName,
     made->setName(keyName);
     made->isUnique = true;
     keyClass->addKey(made.get());
-    keyClass->addPrimaryCandidateKey(made.release());  // ownership: the class
+    KYRCandidateKey* const key = made.release();  // ownership: the class
+    keyClass->addPrimaryCandidateKey(key);
   }
   keyClass->primaryKey->addAttribute(attribute);
 }

@@ -8,6 +8,7 @@
 #include "host/HelpFormatter.h"
 #include "host/HostVersion.h"
 #include "host/KYRHostTexts.h"
+#include "repository/datatypes/KYRDataStores.h"
 
 namespace {
 
@@ -24,6 +25,17 @@ std::string checkTime(const std::string& text) {
   return std::string(KYRHostTexts::NOT_A_TIME.toString(KYRString(text)).view());
 }
 
+// Empty for the name of a data store, else the names that there are.
+std::string checkStore(const std::string& name) {
+  if (findKnownDataStore(KYRString(name)) != nullptr) return {};
+  KYRString known;
+  for (const KYRKnownDataStore& store : getKnownDataStores()) {
+    if (!known.isEmpty()) known += ", ";
+    known += store.name;
+  }
+  return std::string(KYRHostTexts::NO_SUCH_STORE.toString(KYRString(name), known).view());
+}
+
 class Definition {
  public:
   explicit Definition(CommandRequest& request);
@@ -36,7 +48,7 @@ class Definition {
   void defineInfo();
   void defineInspect();
   void defineDiagram();
-  static void addPlugin(CLI::App& command, std::string& path);
+  static CLI::Option& addPlugin(CLI::App& command, std::string& path);
   void addEncoding(CLI::App& command);
 
   CommandRequest& request_;
@@ -97,7 +109,13 @@ void Definition::defineInfo() {
   using namespace KYRHostTexts;
   CLI::App& command = addCommand("info", INFO_HELP, INFO_HELP_EXAMPLES);
   command.add_flag("--json", request_.info.isJson, textOf(INFO_HELP_JSON));
-  addPlugin(command, request_.info.plugin);
+  CLI::Option& plugin = addPlugin(command, request_.info.plugin);
+  CLI::Option* const types =
+      command.add_flag("--types", request_.info.listsTypes, textOf(INFO_HELP_TYPES))->excludes(&plugin);
+  command.add_option("STORE", request_.info.store, textOf(INFO_HELP_STORE))
+      ->type_name("")
+      ->needs(types)
+      ->check(CLI::Validator(checkStore, ""));
 }
 
 void Definition::defineInspect() {
@@ -119,8 +137,8 @@ void Definition::defineDiagram() {
   command.add_option("-o,--output", settings.folder, textOf(DIAGRAM_HELP_OUTPUT))->type_name("FOLDER");
 }
 
-void Definition::addPlugin(CLI::App& command, std::string& path) {
-  command.add_option("--plugin", path, textOf(KYRHostTexts::HELP_PLUGIN))->type_name("PATH");
+CLI::Option& Definition::addPlugin(CLI::App& command, std::string& path) {
+  return *command.add_option("--plugin", path, textOf(KYRHostTexts::HELP_PLUGIN))->type_name("PATH");
 }
 
 void Definition::addEncoding(CLI::App& command) {

@@ -7,6 +7,7 @@
 #include "host/KYRHostTexts.h"
 #include "host/PluginLibrary.h"
 #include "host/TextOut.h"
+#include "host/TypeTableReport.h"
 #include "repository/plugin/KYRBridgeSpecification.h"
 #include "repository/plugin/KYRDataStoreList.h"
 #include "repository/plugin/KYRImportBridgeDllInterface.h"
@@ -90,11 +91,24 @@ void messageToJson(JsonOut& json, const KYRMessageLiteral& message) {
 }  // namespace
 
 void InfoCommand::run() {
+  if (settings_.listsTypes) {
+    writeTypes();
+    return;
+  }
   library_.load(settings_.plugin);
   if (settings_.isJson) {
     writeJson();
   } else {
     writeText();
+  }
+}
+
+void InfoCommand::writeTypes() {
+  const TypeTableReport report(settings_.store);
+  if (settings_.isJson) {
+    report.writeJson(output_);
+  } else {
+    report.writeText(output_);
   }
 }
 

@@ -1,4 +1,4 @@
-// InfoCommand: `kyr info`, what the plug-in tells of itself.
+// InfoCommand: `kyr info`, what the plug-in tells of itself, or the type names of the data stores.
 #pragma once
 
 #include <string>
@@ -12,6 +12,8 @@ class InfoCommand {
   struct Settings {
     std::string plugin;  // empty: the one of this installation
     bool isJson = false;
+    bool listsTypes = false;  // instead of the plug-in, the types of the data stores
+    std::string store;        // only those of this one
   };
 
   /// `library` must outlive the handling of an exception, which may come from the plug-in.
@@ -21,6 +23,7 @@ class InfoCommand {
   void run();
 
  private:
+  void writeTypes();
   void writeText();
   void writeJson();
 

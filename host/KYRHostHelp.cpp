@@ -70,12 +70,17 @@ const HostText<0> INFO_HELP(
     "Tell what the import plug-in is and can do.\n"
     "\n"
     "Version, supported tools with the steps to export a model from each, options, data\n"
-    "stores, and all messages with their codes.");
+    "stores, and all messages with their codes. With --types instead: the type names that\n"
+    "each data store knows, and the data type that each of them becomes in a model.");
 const HostText<0> INFO_HELP_EXAMPLES("INFO_HELP_EXAMPLES",
                                      "Examples:\n"
                                      "  kyr info\n"
-                                     "  kyr info --json");
+                                     "  kyr info --json\n"
+                                     "  kyr info --types ORACLE");
 const HostText<0> INFO_HELP_JSON("INFO_HELP_JSON", "Print one JSON object");
+const HostText<0> INFO_HELP_TYPES("INFO_HELP_TYPES", "List type names and their data types");
+const HostText<0> INFO_HELP_STORE("INFO_HELP_STORE",
+                                  "With --types: only those of this data store, such as ORACLE");
 
 const HostText<0> INSPECT_HELP(
     "INSPECT_HELP",

@@ -6,6 +6,7 @@ namespace KYRHostTexts {
 const HostText<1> VERSION("VERSION", "kyr {0}");
 
 const HostText<1> NOT_A_TIME("NOT_A_TIME", "'{0}' is no time as of ISO 8601, such as 2026-01-01T00:00:00Z");
+const HostText<2> NO_SUCH_STORE("NO_SUCH_STORE", "'{0}' is no data store; there are {1}");
 
 const HostText<2> SUMMARY("SUMMARY", "Wrote '{0}' in {1} s");
 const HostText<6> SUMMARY_COUNTS(
@@ -34,6 +35,10 @@ const HostText<0> INFO_DATA_STORES("INFO_DATA_STORES", "Data stores");
 const HostText<3> INFO_DATA_STORE("INFO_DATA_STORE", "  {0} {1}  {2}");
 const HostText<0> INFO_MESSAGES("INFO_MESSAGES", "Messages");
 const HostText<3> INFO_MESSAGE("INFO_MESSAGE", "  {0}  {1}  {2}");
+
+const HostText<2> INFO_TYPES("INFO_TYPES", "{0}  {1}");
+const HostText<1> INFO_TYPES_SOURCE("INFO_TYPES_SOURCE", "  from {0}");
+const HostText<2> INFO_TYPE("INFO_TYPE", "  {0}  {1}");
 
 const HostText<1> INSPECT_FILE("INSPECT_FILE", "File:         {0}");
 const HostText<1> INSPECT_TOOL("INSPECT_TOOL", "Tool:         {0}");

@@ -31,6 +31,8 @@ extern const HostText<0> IMPORT_HELP_LOG_FILE;
 extern const HostText<0> INFO_HELP;
 extern const HostText<0> INFO_HELP_EXAMPLES;
 extern const HostText<0> INFO_HELP_JSON;
+extern const HostText<0> INFO_HELP_TYPES;
+extern const HostText<0> INFO_HELP_STORE;
 
 extern const HostText<0> INSPECT_HELP;
 extern const HostText<0> INSPECT_HELP_EXAMPLES;
@@ -49,6 +51,8 @@ extern const HostText<1> VERSION;
 
 /// Why a time is wrong usage.
 extern const HostText<1> NOT_A_TIME;
+/// Why a data store is wrong usage, with the names of all.
+extern const HostText<2> NO_SUCH_STORE;
 
 // The closing summary of an import: output file, seconds, and the counts.
 extern const HostText<2> SUMMARY;
@@ -78,6 +82,11 @@ extern const HostText<0> INFO_DATA_STORES;
 extern const HostText<3> INFO_DATA_STORE;
 extern const HostText<0> INFO_MESSAGES;
 extern const HostText<3> INFO_MESSAGE;
+
+// The report of `kyr info --types`.
+extern const HostText<2> INFO_TYPES;
+extern const HostText<1> INFO_TYPES_SOURCE;
+extern const HostText<2> INFO_TYPE;
 
 // The report of `kyr inspect`.
 extern const HostText<1> INSPECT_FILE;

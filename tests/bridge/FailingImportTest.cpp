@@ -1,4 +1,4 @@
-// An import that runs out of memory at any point: it ends with an exception, frees what it holds, and
+// Imports that run out of memory at any point: each ends with an exception, frees what it holds, and
 // the next import in the process is as good as ever. The leak check of a sanitizer build holds the
 // second half.
 #include <gtest/gtest.h>
@@ -6,7 +6,9 @@
 #include <new>
 
 #include "foundation/KYRException.h"
-#include "tests/convert/ImportedModel.h"
+#include "repository/model/KYRClass.h"
+#include "repository/model/KYRKey.h"
+#include "tests/database/DatabaseFiles.h"
 #include "tests/support/FailingAllocation.h"
 
 namespace {
@@ -37,10 +39,45 @@ std::string richFile() {
       "Model", "<xmi:Documentation exporter='Enterprise Architect' exporterVersion='6.5'/>");
 }
 
+std::string property(const std::string& id, const std::string& name, const std::string& type) {
+  return "<ownedAttribute xmi:type='uml:Property' xmi:id='" + id + "' name='" + name + "' type='" + type +
+         "'/>";
+}
+
+std::string keyMark(const std::string& kind, const std::string& id) {
+  return "<Entity_Relationship:" + kind + " xmi:id='k' base_Property='" + id + "'><id>" + kind +
+         "</id></Entity_Relationship:" + kind + ">";
+}
+
+// Schemas, one of which refuses a class, all ways to a key, a dropped column, types with values.
+std::string databaseFile() {
+  return fileOfMagicDraw(
+      element(
+          "Package", "xmi:id='db' name='DB'",
+          profileNamed("MySQL") +
+              element(
+                  "Package", "xmi:id='s' name='S'",
+                  element("Class", "xmi:id='up' name='Up'", property("up.id", "id", "enum")) +
+                      element("Package", "xmi:id='t' name='T'", element("Class", "xmi:id='up2' name='Up'")) +
+                      element("Class", "xmi:id='down' name='Down'",
+                              "<generalization xmi:type='uml:Generalization' xmi:id='g' general='up'/>" +
+                                  property("own", "id", "up") + property("far", "up.id", "enum")) +
+                      element("Association", "xmi:id='as'",
+                              "<ownedEnd xmi:type='uml:Property' xmi:id='v' name='down' type='down'/>"
+                              "<ownedEnd xmi:type='uml:Property' xmi:id='w' name='up' type='up'/>")) +
+              element("Enumeration", "xmi:id='enum' name='int'",
+                      "<ownedLiteral xmi:type='uml:EnumerationLiteral' xmi:id='l1' name='one'/>"
+                      "<ownedLiteral xmi:type='uml:EnumerationLiteral' xmi:id='l2' name='one'/>")),
+      database("db") + schema("s") + keyMark("PrimaryKey", "up.id") + keyMark("ForeignKey", "far") +
+          keyMark("ForeignKey", "own"));
+}
+
+class FailingImport : public testing::TestWithParam<std::string> {};
+
 }  // namespace
 
-TEST(FailingImport, AnyAllocationMayFailAndTheImportEndsWithAnException) {
-  const TemporaryFile file(richFile());
+TEST_P(FailingImport, AnyAllocationMayFailAndTheImportEndsWithAnException) {
+  const TemporaryFile file(GetParam());
   KYROptionList options;
   getKYROmgUml2XmiImportInterface()->getOptionList(options);
   options.get("BP_FILE")->setValue(file.path.c_str());
@@ -70,4 +107,14 @@ TEST(FailingImport, AnyAllocationMayFailAndTheImportEndsWithAnException) {
   }
   EXPECT_GT(treeFailures, 0);
   import();
+}
+
+INSTANTIATE_TEST_SUITE_P(All, FailingImport, testing::Values(richFile(), databaseFile()));
+
+TEST(FailingImportFiles, TheDatabaseFileTakesEveryWayToAKey) {
+  const ImportedModel imported(databaseFile());
+  EXPECT_EQ(imported.get<KYRClass>("up").keys.count(), 1U);
+  EXPECT_EQ(imported.get<KYRClass>("down").keys.count(), 2U);
+  EXPECT_FALSE(imported.has("far"));
+  EXPECT_EQ(imported.log.countOf("KBI_UML2XMI_W0019"), 1U);
 }

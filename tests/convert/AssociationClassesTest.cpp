@@ -106,6 +106,22 @@ TEST(AssociationClasses, RelationsToADeletedOneAreDropped) {
   EXPECT_TRUE(imported.all<KYRAssociation>().empty());
 }
 
+// Its own name, which it does not have yet, is a part of the name that it gets.
+TEST(AssociationClasses, ANamelessOneMayStandAtItsOwnEnds) {
+  const std::string self = "<ownedEnd xmi:type='uml:Property' xmi:id='s' type='ac'/>";
+  const ImportedModel mixed(
+      xmi(element("Package", "xmi:id='p' name='P'",
+                  element("Class", "xmi:id='c' name='Order'") +
+                      element("AssociationClass", "xmi:id='ac'",
+                              self + "<ownedEnd xmi:type='uml:Property' xmi:id='e' type='c'/>"))));
+  EXPECT_EQ(text(mixed.get<KYRClass>("ac").getName()), " Order");
+  EXPECT_EQ(mixed.get<KYRAssociation>("ac_ASSOCIATION").roles.count(), 2U);
+  const ImportedModel alone(
+      xmi(element("Package", "xmi:id='p' name='P'", element("AssociationClass", "xmi:id='ac'", self))));
+  EXPECT_TRUE(alone.all<KYRClass>().empty());
+  EXPECT_TRUE(alone.all<KYRAssociation>().empty());
+}
+
 TEST(AssociationClasses, OneThatHasFewerThanTwoGoodEndsStaysAsAClass) {
   const ImportedModel imported(inPackage(element("AssociationClass", "xmi:id='ac' name='Contract'",
                                                  "<ownedEnd xmi:type='uml:Property' xmi:id='x' type='c1'/>"

@@ -96,6 +96,50 @@ TEST(Associations, AnEndTypedByNoClassTakesTheAssociationWithIt) {
   }
 }
 
+// An association of one property with itself has one end, and so does not exist.
+TEST(Associations, EndsThatAreTheSamePropertyCountOnce) {
+  const std::string one = end("xmi:id='x' type='c1'");
+  const struct {
+    std::string content;
+    std::size_t associations;
+  } rows[] = {
+      {"<memberEnd xmi:idref='x'/><memberEnd xmi:idref='x'/>" + one, 0},
+      {one + "<ownedEnd xmi:idref='x'/>", 0},
+      {"<memberEnd xmi:idref='x'/>" + one + end("xmi:id='y' type='c2'"), 1},
+      {"<memberEnd xmi:idref='x'/><memberEnd xmi:idref='x'/><memberEnd xmi:idref='y'/>" + one +
+           end("xmi:id='y' type='c2'"),
+       1},
+      {one + one, 0},  // an id stands for the first that bears it
+  };
+  for (const auto& row : rows) {
+    const ImportedModel imported(inPackage(association("xmi:id='a'", row.content)));
+    EXPECT_EQ(imported.all<KYRAssociation>().size(), row.associations) << row.content;
+    EXPECT_EQ(imported.all<KYRAssociationRole>().size(), 2 * row.associations) << row.content;
+  }
+  const ImportedModel listed(inPackage(element("Association", "xmi:id='a' memberEnd='x x x'", one)));
+  EXPECT_TRUE(listed.all<KYRAssociation>().empty());
+  const ImportedModel both(inPackage(association("xmi:id='a'", "<memberEnd xmi:idref='a'/>" + one)));
+  EXPECT_TRUE(both.all<KYRAssociation>().empty());
+}
+
+TEST(Associations, AnEndTypedByItsOwnAssociationIsDropped) {
+  const ImportedModel imported(
+      inPackage(association("xmi:id='a'", end("xmi:id='x' type='c1'") + end("xmi:id='y' type='a'") +
+                                              end("xmi:id='z' type='z'") + end("xmi:id='w' type='c2'"))));
+  EXPECT_EQ(imported.get<KYRAssociation>("a").roles.count(), 2U);
+  EXPECT_EQ(imported.all<KYRAssociationRole>().size(), 2U);
+}
+
+// Each association makes roles of its own of an end that two of them list.
+TEST(Associations, AnEndMayBeListedByTwoAssociations) {
+  const ImportedModel imported(
+      inPackage(association("xmi:id='a'", end("xmi:id='x' type='c1'") + end("xmi:id='y' type='c2'")) +
+                association("xmi:id='b'", "<memberEnd xmi:idref='x'/><memberEnd xmi:idref='y'/>")));
+  EXPECT_EQ(imported.all<KYRAssociation>().size(), 2U);
+  EXPECT_EQ(imported.countOf("x"), 2U);
+  EXPECT_EQ(imported.get<KYRClass>("c1").associationRoles.count(), 2U);
+}
+
 TEST(Associations, ADroppedAssociationLeavesNoTrace) {
   RecordingLog log;
   KYRStoreModel model;
@@ -148,6 +192,20 @@ TEST(Associations, BoundsMakeTheMultiplicity) {
       {bound("lowerValue", "LiteralString", "4") + bound("upperValue", "LiteralString", "4"),
        range(0, manyMultiplicity)},
       {bound("lowerValue", "LiteralUnlimitedNatural", "4"), range(0, manyMultiplicity)},
+      {bound("lowerValue", "LiteralInteger", "-1"), "*"},
+      {bound("lowerValue", "LiteralInteger", "-1") + bound("upperValue", "LiteralInteger", "-1"), "*"},
+      {bound("upperValue", "LiteralInteger", ""), "0"},
+      {bound("upperValue", "LiteralUnlimitedNatural", ""), "0"},
+      {bound("upperValue", "LiteralUnlimitedNatural", "12 of them"), "0..12"},
+      {bound("upperValue", "OpaqueExpression", "7"), "0..*"},
+      // Beyond what a number holds: cut at its limits, and a lower bound at the upper one.
+      {bound("upperValue", "LiteralInteger", "99999999999999999999"), range(0, 2147483647)},
+      {bound("upperValue", "LiteralUnlimitedNatural", "99999999999999999999"), range(0, 2147483647)},
+      {bound("upperValue", "LiteralUnlimitedNatural", "-99999999999999999999"), "0..*"},
+      {bound("lowerValue", "LiteralInteger", "99999999999999999999"), "*"},
+      {bound("lowerValue", "LiteralInteger", "-99999999999999999999") +
+           bound("upperValue", "LiteralInteger", "2"),
+       "2"},
   };
   for (const auto& row : rows) EXPECT_EQ(multiplicityOf(row.bounds), row.expected) << row.bounds;
 }

@@ -122,6 +122,24 @@ TEST_F(Generalizations, AClassMayBeItsOwnSuperclass) {
   EXPECT_NE(bridge.objects.find("g"), nullptr);
 }
 
+TEST(Relations, ClassesMaySpecialiseEachOtherInARing) {
+  const ImportedModel imported(inPackage(
+      subclass("a", edge("xmi:id='g1' general='b'")) + subclass("b", edge("xmi:id='g2' general='c'")) +
+      subclass("c", edge("xmi:id='g3' general='a'") + edge("xmi:id='g4' general='c'") +
+                        edge("xmi:id='g5' general='g5'"))));
+  EXPECT_EQ(imported.all<KYRGeneralization>().size(), 3U);
+  for (const char* id : {"g1", "g2", "g3", "g4"}) EXPECT_TRUE(imported.has(id)) << id;
+  EXPECT_FALSE(imported.has("g5"));
+}
+
+TEST(Relations, ARelationOfAClassWithItselfIsOneLikeAnyOther) {
+  const ImportedModel imported(inPackage(three +
+                                         element("Dependency", "xmi:id='d' supplier='c1' client='c1'") +
+                                         element("Dependency", "xmi:id='e' supplier='e' client='c1'")));
+  EXPECT_EQ(imported.get<KYRDependency>("d").supplierClass, imported.get<KYRDependency>("d").clientClass);
+  EXPECT_FALSE(imported.has("e"));
+}
+
 TEST(Relations, ARealizationJoinsAClassAndAnInterface) {
   const ImportedModel imported(
       xmi(element("Package", "xmi:id='p' name='P'",

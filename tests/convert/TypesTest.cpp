@@ -185,6 +185,25 @@ TEST(TypesOfFiles, ATypeThatRefersToItselfOrToNothingIsNoTrouble) {
   EXPECT_EQ(typeOf(imported, "a"), typeOf(imported, "d"));
 }
 
+TEST(TypesOfFiles, ATypeThatHoldsItselfIsNoTrouble) {
+  const ImportedModel imported(inClass(
+      property("a", "d") + property("b", "n") + property("f", "e"),
+      element("DataType", "xmi:id='d' name='D'",
+              "<ownedAttribute xmi:idref='d'/><nestedClassifier xmi:idref='d'/><ownedMember xmi:idref='d'/>"
+              "<packagedElement xmi:idref='d'/>") +
+          element("Class", "xmi:id='n' name='N'",
+                  "<nestedClassifier xmi:idref='n'/>" + property("own", "n") +
+                      "<ownedAttribute xmi:idref='n'/>") +
+          element("Enumeration", "xmi:id='e' name='E'",
+                  "<ownedLiteral xmi:idref='e'/><ownedAttribute xmi:idref='e'/>"
+                  "<ownedLiteral xmi:type='uml:EnumerationLiteral' xmi:id='l' name='L' classifier='e' "
+                  "specification='l'/>")));
+  EXPECT_EQ(typesOf(imported), (Rows{"E|undefined|E|e|undefined", "D|undefined|D|d|undefined"}));
+  EXPECT_EQ(imported.get<KYRDerivedType>("e").typeValues.count(), 1U);
+  EXPECT_EQ(text(typeOf(imported, "own")->sourceId), "n_type");
+  EXPECT_EQ(typeOf(imported, "own"), typeOf(imported, "b"));
+}
+
 TEST(TypesOfFiles, BaseTypesAreSharedAndBelongToTheModel) {
   const ImportedModel imported(inClass("", primitive("a", "int") + primitive("b", "Integer") +
                                                primitive("d", "Odd") + primitive("e", "Even")));

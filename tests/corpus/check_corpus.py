@@ -135,21 +135,23 @@ def has_model(data):
     return finder.found
 
 
-def count_objects(saved):
-    """How many objects of each counted class a saved model holds."""
-    names = {name: key for key, name in COUNTED.items()}
-    counts = dict.fromkeys(COUNTED, 0)
+def objects_of(saved):
+    """Every object of a saved model."""
     stack = [saved]
     while stack:
         value = stack.pop()
         if isinstance(value, dict):
-            key = names.get(value.get("class"))
-            if key:
-                counts[key] += 1
+            if "class" in value:
+                yield value
             stack.extend(value.values())
         elif isinstance(value, list):
             stack.extend(value)
-    return counts
+
+
+def count_objects(saved):
+    """How many objects of each counted class a saved model holds."""
+    classes = collections.Counter(item["class"] for item in objects_of(saved))
+    return {key: classes[name] for key, name in COUNTED.items()}
 
 
 def run_import(kyr, path, out, timeout):

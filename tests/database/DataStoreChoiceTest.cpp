@@ -140,6 +140,24 @@ TEST(DataStoreChoice, AMissingStepOnThePathOfMagicDrawLeavesTheModelLogical) {
   EXPECT_EQ(Choice(magicDraw, xmi(good, "M", database("dbm"))).told(), logical);  // the mark itself
 }
 
+// Only the name of the profile is read: where the reference leads, be it to itself, plays no part.
+TEST(DataStoreChoice, AProfileThatPointsNowhereOrAtItselfIsNoTrouble) {
+  for (const char* profile : {"nowhere.mdzip#x", "#nowhere", "#pa", "#db", "", "#"}) {
+    const std::string application =
+        "<profileApplication xmi:type='uml:ProfileApplication' xmi:id='pa'><appliedProfile href='" +
+        std::string(profile) +
+        "'><xmi:Extension extender='MagicDraw UML'><referenceExtension referentPath='DB2'/></xmi:Extension>"
+        "</appliedProfile></profileApplication>";
+    const ImportedModel imported(fileOfMagicDraw(
+        packageWith("db", application + element("Class", "xmi:id='c' name='C'")),
+        database("db") + "<Profile:Stereotype xmi:id='st' base_Class='nowhere'/>"
+                         "<Profile:Stereotype xmi:id='st2' base_Class='st2'/>"
+                         "<Profile:Stereotype xmi:id='st3' base_Class='db'/><Profile:Stereotype/>"));
+    EXPECT_TRUE(imported.get<KYRClass>("c").isPhysicalClass) << profile;
+    EXPECT_EQ(imported.all<KYRClass>().size(), 1U) << profile;
+  }
+}
+
 TEST(DataStoreChoice, ThePackageIsFoundByItsIdInAnyCaseChildrenFirst) {
   EXPECT_EQ(Choice(magicDraw, xmi(packageWith("dB", profileNamed("DB2")), "M", database("Db"))).told(),
             "DB2_UDB 1.0.0 KYRGENERIC");

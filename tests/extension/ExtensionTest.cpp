@@ -130,6 +130,24 @@ TEST_F(ExtensionWithModule, TheInputCanBeItsOwnModule) {
   EXPECT_EQ(log.countOf("KBI_UML2XMI_S0017"), 1U);
 }
 
+// Whatever an element is, its name makes a type; one without a name makes none.
+TEST_F(ExtensionWithModule, AReferenceMayLeadToItselfOrToWhatIsNoType) {
+  readInput(
+      inClass("<ownedAttribute xmi:type='uml:Property' xmi:id='self' name='Own'>"
+              "<type href='input.xmi#self'/></ownedAttribute>" +
+              propertyWithType("a", "input.xmi#t") + propertyWithType("b", "input.xmi#c") +
+              propertyWithType("d", "input.xmi#o") + propertyWithType("e", "input.xmi#") +
+              propertyWithType("f", "#self") + propertyWithType("g", "#") +
+              "<ownedOperation xmi:type='uml:Operation' xmi:id='o' name='Do.It'/>"));
+  EXPECT_EQ(typeOf("self"), "Own(self)");
+  EXPECT_EQ(typeOf("a"), "none");
+  EXPECT_EQ(typeOf("b"), "none");
+  EXPECT_EQ(typeOf("d"), "It(o)");
+  EXPECT_EQ(typeOf("e"), "none");
+  EXPECT_EQ(typeOf("f"), "none");
+  EXPECT_EQ(typeOf("g"), "none");
+}
+
 TEST_F(ExtensionWithModule, ChildrenComeBeforeTheElementInTheSearch) {
   write("types.xml",
         "<library><type xmi:id='X' xmlns:xmi='x' name='Outer'><type xmi:id='x' "

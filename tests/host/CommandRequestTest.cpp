@@ -50,6 +50,14 @@ TEST(CommandRequest, InfoAndInspectHaveTheirFlags) {
   EXPECT_EQ(info.kind, Kind::info);
   EXPECT_TRUE(info.info.isJson);
   EXPECT_EQ(info.info.plugin, "p.so");
+  EXPECT_FALSE(info.info.listsTypes);
+  const CommandRequest types = read({"info", "--types"});
+  EXPECT_TRUE(types.info.listsTypes);
+  EXPECT_EQ(types.info.store, "");
+  const CommandRequest typesOfOne = read({"info", "--json", "--types", "oracle"});
+  EXPECT_TRUE(typesOfOne.info.listsTypes);
+  EXPECT_TRUE(typesOfOne.info.isJson);
+  EXPECT_EQ(typesOfOne.info.store, "oracle");
   const CommandRequest inspect = read({"inspect", "shop.xmi", "--objects"});
   EXPECT_EQ(inspect.kind, Kind::inspect);
   EXPECT_TRUE(inspect.inspect.listsObjects);

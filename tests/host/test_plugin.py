@@ -41,8 +41,8 @@ class Installation(CommandTest):
             self.assertIn(str(self.folder / "bin" / PLUGIN_NAME), result.errors)
             self.assertIn(str(self.folder / "lib" / "kyr" / PLUGIN_NAME), result.errors)
 
-    def test_inspect_and_help_need_no_plug_in(self):
-        for arguments in (["inspect", SMALL], ["--help"], ["--version"]):
+    def test_what_the_plug_in_does_not_tell_needs_none(self):
+        for arguments in (["inspect", SMALL], ["info", "--types"], ["--help"], ["--version"]):
             self.assertEqual(self.kyr(*arguments, program=self.program).code, DONE)
 
     def test_it_is_found_beside_the_library(self):

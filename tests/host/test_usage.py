@@ -24,6 +24,11 @@ class WrongUsage(CommandTest):
             (["import", "a.xmi", "--modification-time", "yesterday"], "'kyr import --help'"),
             (["import", "a.xmi", "--modification-time", "2026-13-01T00:00:00Z"], "'kyr import --help'"),
             (["info", "a.xmi"], "'kyr info --help'"),
+            (["info", "ORACLE"], "'kyr info --help'"),
+            (["info", "--types", "a.xmi"], "'kyr info --help'"),
+            (["info", "--types", ""], "'kyr info --help'"),
+            (["info", "--types", "ORACLE", "MYSQL"], "'kyr info --help'"),
+            (["info", "--types", "--plugin", "p.so"], "'kyr info --help'"),
             (["inspect"], "'kyr inspect --help'"),
             (["inspect", "a.xmi", "--quiet"], "'kyr inspect --help'"),
         ]
@@ -81,7 +86,7 @@ class Help(CommandTest):
         options = {
             "import": ["--output", "--root-package", "--modification-time", "--encoding", "--quiet", "--log-format",
                        "--log-file", "--plugin"],
-            "info": ["--json", "--plugin"],
+            "info": ["--json", "--plugin", "--types", "STORE"],
             "inspect": ["--json", "--objects", "--encoding"],
         }
         for command, names in options.items():

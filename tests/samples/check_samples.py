@@ -12,6 +12,7 @@ import argparse
 import collections
 import difflib
 import json
+import os
 import re
 import subprocess
 import sys
@@ -206,7 +207,8 @@ def check_sample(name, arguments, problems_of_model):
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
-    parser.add_argument("--kyr", help="the kyr command; without it only the XML of the samples is checked")
+    parser.add_argument("--kyr", type=os.path.abspath,
+                        help="the kyr command; without it only the XML of the samples is checked")
     parser.add_argument("--samples", type=Path, default=ROOT / "samples")
     parser.add_argument("--golden", type=Path, default=HERE / "golden")
     parser.add_argument("--schema", type=Path, default=ROOT / "docs" / "saved-model.schema.json")
