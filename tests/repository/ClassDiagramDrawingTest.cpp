@@ -224,6 +224,32 @@ TEST_F(Drawing, AnAssociationIsALineForEachRoleWithTheirTexts) {
   EXPECT_FALSE(draws("<polygon"));
 }
 
+TEST_F(Drawing, LabelsKeepAwayFromOtherBoxes) {
+  KYRClass near;
+  addRole("left", "", first);
+  addRole("right", "", second);
+  box(first, 100, 100);
+  box(second, 400, 100);
+  line(association, "").displayFlags = 0x50;
+  line(*association.roles[0], "250,100;150,100");
+  line(*association.roles[1], "250,100;350,100");
+  EXPECT_TRUE(draws("<text x=\"346\" y=\"93.5\""));
+  box(near, 330, 60, 100, 70);  // over the line's end
+  EXPECT_TRUE(draws("<text x=\"346\" y=\"115.5\""));
+}
+
+TEST_F(Drawing, ALineThatDoesNotFitIsLeftOutButNotTheName) {
+  first.setName("Order");
+  addAttribute("fits");
+  addAttribute("doesNot");
+  auto& shape = box(first, 100, 100, 100, 50);
+  EXPECT_TRUE(draws("fits"));
+  EXPECT_FALSE(draws("doesNot"));
+  shape.height = 8;
+  EXPECT_TRUE(draws("Order"));
+  EXPECT_FALSE(draws("fits"));
+}
+
 TEST_F(Drawing, TheWholeBearsTheDiamondFilledForAComposition) {
   addRole("", "", first);
   addRole("", "", second)->isAggregate = true;
