@@ -242,6 +242,8 @@ def main():
     parser.add_argument("--update", action="store_true", help="write the golden files anew")
     parser.add_argument("names", nargs="*", help="samples to check, relative to the folder (default: all)")
     arguments = parser.parse_args()
+    if arguments.kyr:
+        arguments.kyr = str(Path(arguments.kyr).absolute())
     names = arguments.names or samples(arguments.samples)
     problems_of_model = schema_validator(arguments.schema) if arguments.kyr else None
     failed = 0
