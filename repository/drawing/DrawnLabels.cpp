@@ -14,14 +14,16 @@ constexpr double endMarkHalf = 4.5;  // half the width of a diamond, which label
 constexpr double ascent = 0.75;
 constexpr double descent = 0.22;
 constexpr double lineSpacing = 1.25;
-constexpr double costOfALaterPlace = 4;
+constexpr double margin = 1;  // texts that touch cannot be read
+constexpr double costOfALaterPlace = 2;
 constexpr std::uint64_t mostComparisons = 20'000'000;
 
 DrawnBox areaOf(const DrawnLabels::Place& place, double width, double fontSize) {
   double left = place.point.x;
   if (place.anchor == SvgDocument::Anchor::middle) left -= width / 2;
   if (place.anchor == SvgDocument::Anchor::end) left -= width;
-  return {left, place.point.y - fontSize * ascent, left + width, place.point.y + fontSize * descent};
+  return {left - margin, place.point.y - fontSize * ascent - margin, left + width + margin,
+          place.point.y + fontSize * descent + margin};
 }
 
 double overlap(const DrawnBox& first, const DrawnBox& second) {

@@ -320,8 +320,14 @@ TEST_F(Drawing, OddModelsGiveValidPictures) {
   getSubtypeGeneralizationRole(&generalization, &first, true);
   box(first, largest, smallest, largest, largest).fontSize = largest;
   box(second, smallest, largest, smallest, smallest).lineWidth = largest;
-  line(association, "nonsense");
+  association.setName("name");
+  association.roles[0]->setName("role");
+  auto& own = line(association, "nonsense");
+  own.displayFlags = -1;
+  own.fontSize = largest;
   line(*association.roles[0], "2147483647,-2147483648");
+  addRole("other", "*", second);
+  line(*association.roles[1], "-2147483648,2147483647;-2147483648,2147483647;2147483647,2147483647");
   line(*generalization.subtypeRoles[0], "0,0;0,0;0,0");
   line(generalization, "1,1;2,2");
   auto* const loose = new KYRRelationshipProjection();
