@@ -11,6 +11,7 @@ export CTEST_PARALLEL_LEVEL ?= $(JOBS)
 configure_flags := $(if $(CORPUS),-DKYR_CORPUS_DIR=$(abspath $(CORPUS)))
 sample := samples/plain.xmi
 imported := out/plain.json
+drawn := samples/magicdraw-diagrams.xmi
 
 .PHONY: help build run test lint format bench clean deps-%
 
@@ -32,6 +33,8 @@ run: build ## Import a shipped sample and show what came of it
 	@head -c 600 $(imported) && echo " ..."
 	@echo && echo "kyr inspect $(sample)"
 	@build/release/bin/kyr inspect $(sample) | sed -n '1,20p'
+	@echo && build/release/bin/kyr import $(drawn) -o out/drawn.json -q
+	build/release/bin/kyr diagram out/drawn.json -o out
 
 test: build ## Run all tests: release, then address, leak and undefined behaviour sanitizers
 	ctest --preset release

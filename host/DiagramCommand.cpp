@@ -13,7 +13,7 @@
 namespace {
 
 void writeFile(const std::string& path, std::string_view content) {
-  ReplacedFile file{KYRFile(KYRString(path))};
+  ReplacedFile file(KYRFile(KYRString(path)), ReplacedFile::Wait::untilNamed);
   file.write(content);
   file.commit();
 }

@@ -41,6 +41,7 @@ void countsToJson(JsonOut& json, const SavedModelCounts& counts) {
   json.key("attributes").number(counts.attributes);
   json.key("operations").number(counts.operations);
   json.key("arguments").number(counts.arguments);
+  json.key("diagrams").number(counts.diagrams);
 }
 
 }  // namespace
@@ -116,7 +117,7 @@ void ImportCommand::writeSummary(double seconds, const PhaseReport& phases) {
   out.line(KYRHostTexts::SUMMARY, target_, inSeconds(seconds));
   if (counts.has_value()) {
     out.line(KYRHostTexts::SUMMARY_COUNTS, counts->packages, counts->classes, counts->interfaces,
-             counts->attributes, counts->operations, counts->arguments);
+             counts->attributes, counts->operations, counts->arguments, counts->diagrams);
   }
   phases.write(out);
 }

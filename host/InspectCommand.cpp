@@ -5,6 +5,7 @@
 #include <array>
 #include <vector>
 
+#include "host/InspectDiagrams.h"
 #include "host/InspectObjects.h"
 #include "host/InspectReport.h"
 #include "host/JsonOut.h"
@@ -73,14 +74,18 @@ void InspectCommand::run() {
   parser.parse(KYRFile(KYRString(settings_.file)));
   if (settings_.listsObjects) {
     InspectObjects(parser.getObjects(), parser.getMadeObjects()).write(output_);
-  } else if (settings_.isJson) {
-    writeJson(parser, report);
+    return;
+  }
+  const InspectDiagrams diagrams(log_, KYRFile(KYRString(settings_.file)));
+  if (settings_.isJson) {
+    writeJson(parser, report, diagrams);
   } else {
-    writeText(parser, report);
+    writeText(parser, report, diagrams);
   }
 }
 
-void InspectCommand::writeText(const XMIParser& parser, const InspectReport& report) {
+void InspectCommand::writeText(const XMIParser& parser, const InspectReport& report,
+                               const InspectDiagrams& diagrams) {
   using namespace KYRHostTexts;
   const KYRString unknown = INSPECT_UNKNOWN.toString();
   const auto known = [&unknown](const KYRString& text) { return text.isEmpty() ? unknown : text; };
@@ -96,6 +101,10 @@ void InspectCommand::writeText(const XMIParser& parser, const InspectReport& rep
     out.line(INSPECT_COUNT, entry.count, entry.name);
   }
   if (parser.getMadeObjects().getCount() != 0) out.line(INSPECT_MADE, parser.getMadeObjects().getCount());
+  if (diagrams.getCount() != 0) out.line(INSPECT_DIAGRAMS, diagrams.getCount());
+  for (const InspectDiagrams::Kind& kind : diagrams.getKinds()) {
+    out.line(INSPECT_COUNT, kind.count, known(KYRString(shorten(kind.name.view()))));
+  }
   out.line(INSPECT_REFERENCES, report.getResolved(), report.getUnresolved(), report.getUnfitting());
   if (report.getWithoutId() != 0) out.line(INSPECT_WITHOUT_ID, report.getWithoutId());
   if (!report.getFirstMissingIds().empty()) out.line(INSPECT_MISSING_IDS);
@@ -104,7 +113,8 @@ void InspectCommand::writeText(const XMIParser& parser, const InspectReport& rep
   listNames(out, INSPECT_UNKNOWN_TAGS, report.getUnknownTags());
 }
 
-void InspectCommand::writeJson(const XMIParser& parser, const InspectReport& report) {
+void InspectCommand::writeJson(const XMIParser& parser, const InspectReport& report,
+                               const InspectDiagrams& diagrams) {
   JsonOut json;
   json.beginObject();
   json.key("file").text(settings_.file);
@@ -117,6 +127,14 @@ void InspectCommand::writeJson(const XMIParser& parser, const InspectReport& rep
   json.key("classes").beginObject();
   for (const ClassCount& entry : countClasses(parser.getObjects())) json.key(entry.name).number(entry.count);
   json.endObject();
+  json.key("diagrams").beginArray();
+  for (const InspectDiagrams::Kind& kind : diagrams.getKinds()) {
+    json.beginObject();
+    json.key("kind").text(kind.name);
+    json.key("count").number(kind.count);
+    json.endObject();
+  }
+  json.endArray();
   json.key("references").beginObject();
   json.key("resolved").number(report.getResolved());
   json.key("unresolved").number(report.getUnresolved());

@@ -7,6 +7,7 @@
 
 #include "host/Output.h"
 
+class InspectDiagrams;
 class InspectReport;
 class KYRLog;
 class XMIParser;
@@ -26,8 +27,8 @@ class InspectCommand {
   void run();
 
  private:
-  void writeText(const XMIParser& parser, const InspectReport& report);
-  void writeJson(const XMIParser& parser, const InspectReport& report);
+  void writeText(const XMIParser& parser, const InspectReport& report, const InspectDiagrams& diagrams);
+  void writeJson(const XMIParser& parser, const InspectReport& report, const InspectDiagrams& diagrams);
 
   Settings settings_;
   Output& output_;

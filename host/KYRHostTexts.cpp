@@ -9,9 +9,9 @@ const HostText<1> NOT_A_TIME("NOT_A_TIME", "'{0}' is no time as of ISO 8601, suc
 const HostText<2> NO_SUCH_STORE("NO_SUCH_STORE", "'{0}' is no data store; there are {1}");
 
 const HostText<2> SUMMARY("SUMMARY", "Wrote '{0}' in {1} s");
-const HostText<6> SUMMARY_COUNTS(
-    "SUMMARY_COUNTS",
-    "packages {0}, classes {1}, interfaces {2}, attributes {3}, operations {4}, arguments {5}");
+const HostText<7> SUMMARY_COUNTS("SUMMARY_COUNTS",
+                                 "packages {0}, classes {1}, interfaces {2}, attributes {3}, "
+                                 "operations {4}, arguments {5}, diagrams {6}");
 
 const HostText<2> SUMMARY_PHASE("SUMMARY_PHASE", "{0} s  {1}");
 
@@ -48,6 +48,7 @@ const HostText<0> INSPECT_UNKNOWN("INSPECT_UNKNOWN", "(not known)");
 const HostText<1> INSPECT_OBJECTS("INSPECT_OBJECTS", "Objects:      {0}");
 const HostText<2> INSPECT_COUNT("INSPECT_COUNT", "  {0}  {1}");
 const HostText<1> INSPECT_MADE("INSPECT_MADE", "  and {0} made of what the tool adds to the file");
+const HostText<1> INSPECT_DIAGRAMS("INSPECT_DIAGRAMS", "Diagrams:     {0}");
 const HostText<3> INSPECT_REFERENCES(
     "INSPECT_REFERENCES", "References:   {0} resolved, {1} unresolved, {2} between classes that do not fit");
 const HostText<1> INSPECT_WITHOUT_ID("INSPECT_WITHOUT_ID",

@@ -56,7 +56,7 @@ extern const HostText<2> NO_SUCH_STORE;
 
 // The closing summary of an import: output file, seconds, and the counts.
 extern const HostText<2> SUMMARY;
-extern const HostText<6> SUMMARY_COUNTS;
+extern const HostText<7> SUMMARY_COUNTS;
 /// With --timing: seconds and phase.
 extern const HostText<2> SUMMARY_PHASE;
 
@@ -97,6 +97,7 @@ extern const HostText<0> INSPECT_UNKNOWN;
 extern const HostText<1> INSPECT_OBJECTS;
 extern const HostText<2> INSPECT_COUNT;
 extern const HostText<1> INSPECT_MADE;
+extern const HostText<1> INSPECT_DIAGRAMS;
 extern const HostText<3> INSPECT_REFERENCES;
 extern const HostText<1> INSPECT_WITHOUT_ID;
 extern const HostText<0> INSPECT_MISSING_IDS;

@@ -21,9 +21,9 @@ const Row<1> KYRRepositoryMessages::PACKAGE_IN_ITSELF(105, fatal,
 const Row<1> KYRRepositoryMessages::TYPE_ON_ITSELF(106, fatal, "The type '{0}' cannot rest on itself");
 const Row<2> KYRRepositoryMessages::NOT_A_TIME(
     107, fatal, "The value '{1}' of the option '{0}' is not a time such as 2026-01-01T00:00:00Z");
-const Row<2> KYRRepositoryMessages::CANNOT_SAVE(120, fatal, "The model cannot be saved to '{0}': {1}");
+const Row<2> KYRRepositoryMessages::CANNOT_SAVE(120, fatal, "The file '{0}' cannot be saved: {1}");
 const Row<1> KYRRepositoryMessages::CANNOT_SAVE_NOT_A_FILE(
-    121, fatal, "The model cannot be saved to '{0}': it is not a regular file");
+    121, fatal, "The file '{0}' cannot be saved: it is not a regular file");
 const Row<2> KYRRepositoryMessages::CANNOT_LOAD(130, fatal, "The model '{0}' cannot be loaded: {1}");
 const Row<1> KYRRepositoryMessages::CANNOT_LOAD_NOT_A_FILE(
     145, fatal, "The model '{0}' cannot be loaded: it is not a regular file");

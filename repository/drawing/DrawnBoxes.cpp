@@ -79,7 +79,9 @@ double fontSizeOf(const KYRPresentationElement& shape) {
 DrawnBoxes::DrawnBoxes(SvgDocument& document, const KYRClassDiagram& diagram)
     : document_(document), diagram_(diagram) {
   for (const KYRPresentationElement* shape : diagram.diagramElements) {
-    if (isBox(*shape)) boxes_.try_emplace(shape->subject, boxOf(*shape));
+    if (!isBox(*shape)) continue;
+    all_.push_back(boxOf(*shape));
+    boxes_.try_emplace(shape->subject, all_.back());
   }
 }
 
@@ -109,7 +111,8 @@ void DrawnBoxes::drawBox(const KYRProjection& shape, const DrawnBox& box) {
     }
     isFirst = false;
     for (const Line& line : lines) {
-      if (y > box.bottom) break;
+      // Half a line is worse than none, but a box has its name.
+      if (y + size > box.bottom && !line.isName) break;
       SvgDocument::Font font = {shape.fontName.view(), size, shape.fontColor};
       font.isBold = shape.isBold || (line.isName && &line == &lines.back());
       font.isItalic = shape.isItalic || line.isItalic;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <unordered_map>
+#include <vector>
 
 #include "repository/drawing/SvgDocument.h"
 #include "repository/model/KYRClassDiagram.h"
@@ -13,12 +14,15 @@ class DrawnBoxes {
   void draw();
   /// The first box of the object; null when there is none.
   const DrawnBox* find(const KYRModelObject* object) const;
+  /// All boxes, those too that show an object another time.
+  const std::vector<DrawnBox>& all() const { return all_; }
 
  private:
   void drawBox(const KYRProjection& shape, const DrawnBox& box);
 
   SvgDocument& document_;
   const KYRClassDiagram& diagram_;
+  std::vector<DrawnBox> all_;
   std::unordered_map<const KYRModelObject*, DrawnBox> boxes_;
 };
 

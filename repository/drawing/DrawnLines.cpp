@@ -13,7 +13,6 @@ constexpr double diamondLength = 16;
 constexpr double diamondWidth = 9;
 constexpr double triangleLength = 14;
 constexpr double triangleWidth = 14;
-constexpr double labelGap = 4;
 
 // Bits of the display flags of an association.
 constexpr int showName = 0x2;
@@ -66,8 +65,6 @@ void straighten(DrawnPath& path) {
   }
 }
 
-bool isMostlyHorizontal(DrawnPoint way) { return std::fabs(way.x) > std::fabs(way.y); }
-
 }  // namespace
 
 DrawnLines::DrawnLines(SvgDocument& document, const DrawnBoxes& boxes, const KYRClassDiagram& diagram)
@@ -94,6 +91,7 @@ DrawnLines::Association& DrawnLines::openAssociation(const KYRAssociation& subje
 }
 
 void DrawnLines::draw() {
+  for (const DrawnBox& box : boxes_.all()) labels_.avoid(box);
   for (const Association& association : associations_) drawAssociation(association);
   for (const KYRPresentationElement* shape : diagram_.diagramElements) {
     const auto* const line = dynamic_cast<const KYRRelationshipProjection*>(shape);
@@ -102,9 +100,15 @@ void DrawnLines::draw() {
       drawGeneralization(*line, *role);
     } else if (dynamic_cast<const KYRAssociation*>(line->subject) == nullptr &&
                dynamic_cast<const KYRAssociationRole*>(line->subject) == nullptr) {
-      document_.path(pathOf(*line), penOf(*line));
+      drawPath(pathOf(*line), penOf(*line));
     }
   }
+  labels_.draw(document_);
+}
+
+void DrawnLines::drawPath(const DrawnPath& path, const SvgDocument::Pen& pen) {
+  document_.path(path, pen);
+  labels_.avoid(path);
 }
 
 // Where the roles meet: where their lines begin, else half way between the boxes.
@@ -122,22 +126,28 @@ DrawnPoint DrawnLines::middleOf(const Association& association) const {
 
 void DrawnLines::drawAssociation(const Association& association) {
   if (association.roles.empty()) {
-    if (association.line != nullptr) document_.path(pathOf(*association.line), penOf(*association.line));
+    if (association.line != nullptr) drawPath(pathOf(*association.line), penOf(*association.line));
     return;
   }
   const DrawnPoint middle = middleOf(association);
-  for (std::size_t i = 0; i < association.roles.size(); ++i) drawRole(association, i, middle);
+  std::vector<DrawnPath> paths;
+  for (std::size_t i = 0; i < association.roles.size(); ++i) {
+    paths.push_back(drawRole(association, i, middle));
+  }
   const KYRPresentationElement& style =
       *(association.line != nullptr ? association.line : association.roles.front());
   if (const DrawnBox* box = boxes_.find(association.subject->associationClass)) {
     SvgDocument::Pen pen = penOf(style);
     pen.isDashed = true;
-    if (!box->contains(middle)) document_.path({middle, box->nearest(middle)}, pen);
+    if (!box->contains(middle)) drawPath({middle, box->nearest(middle)}, pen);
   }
-  drawName(association, {middle});
+  if (association.line != nullptr && (association.line->displayFlags & showName) != 0) {
+    addLabel(*association.line, DrawnTexts::nameOf(*association.subject),
+             DrawnLabels::along(paths, fontSizeOf(*association.line)));
+  }
 }
 
-void DrawnLines::drawRole(const Association& association, std::size_t index, DrawnPoint middle) {
+DrawnPath DrawnLines::drawRole(const Association& association, std::size_t index, DrawnPoint middle) {
   const KYRRelationshipProjection& line = *association.roles[index];
   auto& role = dynamic_cast<KYRAssociationRole&>(*line.subject);
   const KYRPresentationElement& style = *(association.line != nullptr ? association.line : &line);
@@ -145,8 +155,8 @@ void DrawnLines::drawRole(const Association& association, std::size_t index, Dra
   DrawnPath path = pathOf(line);
   if (path.empty()) path = {middle};
   if (box != nullptr) attachEnd(path, *box);
-  if (path.size() < 2) return;
-  document_.path(path, penOf(style));
+  if (path.size() < 2) return path;
+  drawPath(path, penOf(style));
   // The whole bears the diamond, and the part is what is aggregated.
   const KYRAssociationRole* const part = findReverseRole(&role);
   if (part != nullptr && part->isAggregate) {
@@ -154,46 +164,17 @@ void DrawnLines::drawRole(const Association& association, std::size_t index, Dra
                       association.subject->isComposite ? style.lineColor : white);
   }
   const int shown = index < 2 ? showRole[index] : 0;
-  if ((style.displayFlags & shown) != 0) drawRoleTexts(style, role, path);
+  if ((style.displayFlags & shown) != 0) {
+    const double size = fontSizeOf(style);
+    addLabel(style, DrawnTexts::nameOf(role), DrawnLabels::atEnd(path, DrawnLabels::Side::first, size));
+    addLabel(style, DrawnTexts::shorten(std::string(role.multiplicity.view())),
+             DrawnLabels::atEnd(path, DrawnLabels::Side::second, size));
+  }
+  return path;
 }
 
-// The name on the one side of the line, the multiplicity on the other, both clear of a diamond.
-void DrawnLines::drawRoleTexts(const KYRPresentationElement& style, const KYRAssociationRole& role,
-                               const DrawnPath& path) {
-  const SvgDocument::Font font = fontOf(style);
-  const DrawnPoint way = arrival(path);
-  const DrawnPoint end = path.back();
-  const std::string name = DrawnTexts::nameOf(role);
-  const std::string multiplicity = DrawnTexts::shorten(std::string(role.multiplicity.view()));
-  if (isMostlyHorizontal(way)) {
-    const double x = end.x - (way.x > 0 ? labelGap : -labelGap);
-    const auto anchor = way.x > 0 ? SvgDocument::Anchor::end : SvgDocument::Anchor::start;
-    const double below = std::max(font.size, diamondWidth / 2 + font.size) + 1;
-    if (!name.empty()) document_.text({x, end.y - diamondWidth / 2 - 2}, name, font, anchor);
-    if (!multiplicity.empty()) document_.text({x, end.y + below}, multiplicity, font, anchor);
-  } else {
-    const double y = way.y > 0 ? end.y - labelGap : end.y + font.size + labelGap;
-    const double gap = diamondWidth / 2 + labelGap;
-    if (!name.empty()) document_.text({end.x + gap, y}, name, font, SvgDocument::Anchor::start);
-    if (!multiplicity.empty()) {
-      document_.text({end.x - gap, y}, multiplicity, font, SvgDocument::Anchor::end);
-    }
-  }
-}
-
-void DrawnLines::drawName(const Association& association, const DrawnPath& path) {
-  const KYRRelationshipProjection* const line = association.line;
-  if (line == nullptr || (line->displayFlags & showName) == 0) return;
-  const std::string name = DrawnTexts::nameOf(*association.subject);
-  if (name.empty()) return;
-  const DrawnPath first = pathOf(*association.roles.front());
-  const bool isHorizontal = first.size() < 2 || isMostlyHorizontal(first[1] - first[0]);
-  const DrawnPoint middle = path.front();
-  if (isHorizontal) {
-    document_.text({middle.x, middle.y - labelGap}, name, fontOf(*line), SvgDocument::Anchor::middle);
-  } else {
-    document_.text({middle.x + labelGap, middle.y}, name, fontOf(*line), SvgDocument::Anchor::start);
-  }
+void DrawnLines::addLabel(const KYRPresentationElement& style, std::string text, DrawnLabels::Places places) {
+  if (!text.empty()) labels_.add(std::move(text), fontOf(style), std::move(places));
 }
 
 void DrawnLines::drawGeneralization(const KYRRelationshipProjection& line,
@@ -209,7 +190,7 @@ void DrawnLines::drawGeneralization(const KYRRelationshipProjection& line,
       straighten(path);
     }
     if (isSuper && path.size() > 1) drawTriangle(path, penOf(line));
-    document_.path(path, penOf(line));
+    drawPath(path, penOf(line));
     return;
   }
   if (isSuper || role.generalizationAsSubtype == nullptr || box == nullptr) return;
@@ -219,7 +200,7 @@ void DrawnLines::drawGeneralization(const KYRRelationshipProjection& line,
   if (superBox == nullptr || superBox == box) return;
   path = straightLine(*box, *superBox);
   drawTriangle(path, penOf(line));
-  document_.path(path, penOf(line));
+  drawPath(path, penOf(line));
 }
 
 // The path ends at the foot of the triangle afterwards.
@@ -229,5 +210,6 @@ void DrawnLines::drawTriangle(DrawnPath& path, const SvgDocument::Pen& pen) {
   const DrawnPoint foot = tip - way * triangleLength;
   const DrawnPoint side = DrawnPoint{-way.y, way.x} * (triangleWidth / 2);
   document_.polygon({tip, foot + side, foot - side}, pen, white);
+  labels_.avoid({tip, foot + side, foot - side, tip});
   if (lengthOf(tip - path[path.size() - 2]) > triangleLength) path.back() = foot;
 }

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "repository/drawing/DrawnBoxes.h"
+#include "repository/drawing/DrawnLabels.h"
 #include "repository/drawing/SvgDocument.h"
 #include "repository/model/KYRAssociation.h"
 #include "repository/model/KYRAssociationRole.h"
@@ -32,10 +33,9 @@ class DrawnLines {
   void gather(const KYRRelationshipProjection& line);
   Association& openAssociation(const KYRAssociation& subject);
   void drawAssociation(const Association& association);
-  void drawRole(const Association& association, std::size_t index, DrawnPoint middle);
-  void drawName(const Association& association, const DrawnPath& path);
-  void drawRoleTexts(const KYRPresentationElement& style, const KYRAssociationRole& role,
-                     const DrawnPath& path);
+  DrawnPath drawRole(const Association& association, std::size_t index, DrawnPoint middle);
+  void addLabel(const KYRPresentationElement& style, std::string text, DrawnLabels::Places places);
+  void drawPath(const DrawnPath& path, const SvgDocument::Pen& pen);
   void drawGeneralization(const KYRRelationshipProjection& line, const KYRGeneralizationRole& role);
   void drawTriangle(DrawnPath& path, const SvgDocument::Pen& pen);
   DrawnPoint middleOf(const Association& association) const;
@@ -43,6 +43,7 @@ class DrawnLines {
   SvgDocument& document_;
   const DrawnBoxes& boxes_;
   const KYRClassDiagram& diagram_;
+  DrawnLabels labels_;
   std::vector<Association> associations_;
   std::unordered_map<const KYRAssociation*, std::size_t> latest_;  // its last entry in associations_
 };

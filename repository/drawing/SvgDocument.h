@@ -5,10 +5,11 @@
 #include <string>
 #include <string_view>
 
+#include "foundation/Export.h"
 #include "repository/drawing/DrawingGeometry.h"
 
 /// Colours are 0x00BBGGRR. What is drawn decides how large the picture is.
-class SvgDocument {
+class KYR_EXPORT SvgDocument {
  public:
   struct Pen {
     std::int32_t color = 0;

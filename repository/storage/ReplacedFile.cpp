@@ -24,8 +24,8 @@ std::string nextTemporaryName() {
 
 }  // namespace
 
-ReplacedFile::ReplacedFile(const KYRFile& target)
-    : path_(target.getPath()), target_(target.getPath().view()), mode_(newFileMode) {
+ReplacedFile::ReplacedFile(const KYRFile& target, Wait wait)
+    : path_(target.getPath()), target_(target.getPath().view()), mode_(newFileMode), wait_(wait) {
   resolveTarget();
   const std::size_t slash = target_.rfind('/');
   if (slash != std::string::npos) directory_ = target_.substr(0, slash + 1);
@@ -79,10 +79,12 @@ void ReplacedFile::write(std::string_view block) {
 }
 
 void ReplacedFile::commit() {
-  if (::fsync(descriptor_) != 0) raise(errno);
+  const bool waitsForDisk = wait_ == Wait::untilOnDisk;
+  if (waitsForDisk && ::fsync(descriptor_) != 0) raise(errno);
   close();
   if (::rename(temporary_.c_str(), target_.c_str()) != 0) raise(errno);
   temporary_.clear();
+  if (!waitsForDisk) return;
   // The new name reaches the disk with the directory. The file itself is whole by now, so a file
   // system that cannot do this is no failure.
   const int directory = ::open(directory_.empty() ? "." : directory_.c_str(), O_RDONLY | O_CLOEXEC);

@@ -10,13 +10,16 @@
 /// a KYRException that names the target and the reason.
 class KYR_EXPORT ReplacedFile : public BlockSink {
  public:
+  /// What `commit` waits for. A file that can be made again at any time, such as a picture, needs no more
+  /// than its name; a crash of the machine may then leave it incomplete.
+  enum class Wait { untilOnDisk, untilNamed };
   /// Makes the new file in the directory of the target. A target that exists must be a regular file;
   /// a link to one is followed, and its permissions are kept.
-  explicit ReplacedFile(const KYRFile& target);
+  explicit ReplacedFile(const KYRFile& target, Wait wait = Wait::untilOnDisk);
   /// Removes the new file when it has not taken the target's place.
   ~ReplacedFile() override;
   void write(std::string_view block) override;
-  /// Sees to it that the bytes have reached the disk, then renames.
+  /// Sees to it that the bytes have reached the disk, unless nobody waits for that, then renames.
   void commit();
 
  private:
@@ -30,6 +33,7 @@ class KYR_EXPORT ReplacedFile : public BlockSink {
   std::string directory_;  // of the target, with the "/"
   std::string temporary_;  // empty while there is no such file
   unsigned int mode_;
+  Wait wait_;
   bool isModeKept_ = false;
   int descriptor_ = -1;
 };

@@ -38,7 +38,8 @@ SANITIZER_REPORTS = ("AddressSanitizer", "LeakSanitizer", "UndefinedBehaviorSani
 POSITION = re.compile(r"line (\d+), column (\d+)")
 COUNTED = collections.OrderedDict((
     ("packages", "KYRDesignPackage"), ("classes", "KYRClass"),
-    ("attributes", "KYRAttribute"), ("operations", "KYROperation")))
+    ("attributes", "KYRAttribute"), ("operations", "KYROperation"), ("diagrams", "KYRClassDiagram"),
+    ("shapes", "KYRProjection"), ("lines", "KYRRelationshipProjection")))
 
 # What the names in a declaration mean where that differs from Python's reading of them.
 CODECS = {"shift_jis": "cp932", "gb2312": "gbk", "ks_c_5601": "cp949", "ks_c_5601-1987": "cp949"}

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "diagram/ShapeParts.h"
+#include "foundation/xml/XmlLimits.h"
 #include "tests/diagram/DrawnModel.h"
 
 namespace {
@@ -184,6 +185,40 @@ TEST(DiagramCollection, GeneralizationsOfATreeBelongToItWhereverItStands) {
                 shape("Generalization", "G6", "gi", "<treeID/>")));
   EXPECT_EQ(gathered.shapes(), "framed>d T>-1");
   EXPECT_EQ(gathered.branchesOf("T"), "G1>gb G2>gc");
+}
+
+TEST(DiagramCollection, AnyElementCanBeADiagram) {
+  const std::string content =
+      "<xmi:Extension><diagramRepresentation><diagram:DiagramRepresentationObject umlType='Class Diagram'/>"
+      "</diagramRepresentation></xmi:Extension>";
+  const Gathered gathered("<packagedElement xmi:type='UML:diagram' xmi:id='d'>" + content +
+                              "</packagedElement><uml:Diagram xmi:id='e'>" + content + "</uml:Diagram>",
+                          frame("d", shape("Class", "A", "a")));
+  EXPECT_EQ(gathered.count(), 1U);
+  EXPECT_EQ(gathered.shapes(), "framed>d A>a");
+}
+
+TEST(DiagramCollection, AFrameAsDeepAsAFileMayBeNeedsNoStack) {
+  constexpr unsigned int depth = 100000;
+  const XmlLimits before = XmlLimits::get();
+  XmlLimits limits = before;
+  limits.maxDepth = 2 * depth;
+  XmlLimits::set(limits);
+  const auto nested = [](const std::string& tag, const std::string& content) {
+    std::string open;
+    std::string close;
+    for (unsigned int i = 0; i < depth; ++i) {
+      open += "<" + tag + ">";
+      close += "</" + tag + ">";
+    }
+    return open + content + close;
+  };
+  EXPECT_EQ(Gathered(nested("e", diagramElement("d", "D")), frame("d", shape("Class", "A", "a"))).shapes(),
+            "framed>d A>a");
+  EXPECT_EQ(Gathered(diagramElement("d", "D"), nested("xmi:Extension", frame("d", shape("Class", "A", "a"))))
+                .shapes(),
+            "framed>d A>a");
+  XmlLimits::set(before);
 }
 
 TEST(DiagramCollection, ManyShapesNestedDeeplyNeedNoStack) {

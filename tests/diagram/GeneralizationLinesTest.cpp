@@ -76,6 +76,13 @@ TEST(GeneralizationLines, AreNotDrawnUnlessBothEndsAreClassesOnTheDiagram) {
   }
 }
 
+TEST(GeneralizationLines, AnInterfaceCanBeAnEnd) {
+  const DrawnModel model(boxes + shape("Interface", "I", "i") +
+                         shape("Generalization", "G", "gi", ends("A", "I") + geometry("0, 0; 10, 10; ")));
+  EXPECT_EQ(model.pointsOf("gi"), "6,5;13,11");
+  EXPECT_EQ(model.drawingCount(), 7U);
+}
+
 TEST(GeneralizationLines, AShapeOfAnotherObjectIsNeitherDrawnNorListed) {
   const DrawnModel model(boxes + shape("Generalization", "G", "ab", ends("A", "B")));
   EXPECT_EQ(model.drawingCount(), 3U);

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "repository/model/KYRProjection.h"
 #include "tests/diagram/DrawnModel.h"
 
@@ -135,5 +137,19 @@ TEST(ShapeProperties, TheStyleOfAFontIsItsNumberAsAText) {
     EXPECT_EQ(target.isItalic, row.isItalic) << row.style;
     EXPECT_EQ(text(target.fontName), "Courier");
     EXPECT_EQ(target.fontSize, 9);
+  }
+}
+
+TEST(ShapeProperties, TheSizeOfAFontIsReadAsFarAsItGoes) {
+  const struct {
+    const char* size;
+    int expected;
+  } rows[] = {{"9", 9},   {"", 7},      {"x", 0},
+              {"-3", -3}, {"12pt", 12}, {"99999999999", std::numeric_limits<int>::max()}};
+  for (const auto& row : rows) {
+    KYRProjection target;
+    target.fontSize = 7;
+    readFont(*ParsedShape(properties(property("FontProperty", "FONT", valued("size", row.size)))), target);
+    EXPECT_EQ(target.fontSize, row.expected) << row.size;
   }
 }

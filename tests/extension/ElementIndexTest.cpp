@@ -2,8 +2,7 @@
 #include "extension/ElementIndex.h"
 
 #include "extension/DocumentReading.h"
-#include "foundation/xml/XmlLimits.h"
-#include "tests/xmi/Reading.h"
+#include "tests/extension/ExtensionReading.h"
 
 namespace {
 
@@ -83,26 +82,50 @@ TEST(ElementIndex, OfEqualKeysTheFirstElementStays) {
 }
 
 TEST(ElementIndex, DeepNestingCostsOneComparisonAnElement) {
-  constexpr unsigned int depth = 20000;
-  XmlLimits limits = XmlLimits::get();
-  const XmlLimits before = limits;
-  limits.maxDepth = depth + 10;
-  XmlLimits::set(limits);
+  constexpr unsigned int depth = 100000;
+  const DeeperFiles deeper(depth + 10);
   std::string open;
   std::string close;
   for (unsigned int i = 0; i < depth; ++i) {
     open += "<packagedElement xmi:type='uml:Package' xmi:id='p" + std::to_string(i) + "'>";
     close += "</packagedElement>";
   }
-  {
-    Indexed indexed(inModel(open + close));
-    const UMLObjectTable& objects = indexed.reading.parser.getObjects();
-    for (unsigned int i = 0; i < objects.getSlotCount(); ++i) {
-      ASSERT_TRUE(indexed.index->find(*objects.at(i)));
-    }
-    EXPECT_LE(indexed.index->getComparisonCount(), objects.getCount() + 10U);
+  Indexed indexed(inModel(open + close));
+  const UMLObjectTable& objects = indexed.reading.parser.getObjects();
+  for (unsigned int i = 0; i < objects.getSlotCount(); ++i) {
+    ASSERT_TRUE(indexed.index->find(*objects.at(i)));
   }
-  XmlLimits::set(before);
+  EXPECT_LE(indexed.index->getComparisonCount(), objects.getCount() + 10U);
+}
+
+// The ids differ at the top alone, so the keys of a level are told apart by their last characters.
+TEST(ElementIndex, AMillionElementsTwentyDeepCostNoMoreThanTheirNumber) {
+  constexpr unsigned int chains = 50000;
+  constexpr unsigned int depth = 20;
+  std::string xml = "<r>";
+  for (unsigned int i = 0; i < chains; ++i) {
+    xml += "<e xmi:id='c" + std::to_string(i) + "'>";
+    for (unsigned int level = 1; level < depth; ++level) xml += "<e xmi:id='e'>";
+    for (unsigned int level = 0; level < depth; ++level) xml += "</e>";
+  }
+  const TemporaryFile file(xml + "</r>");
+  RecordingLog log;
+  KYRDOM dom(&log);
+  DocumentReading reading;
+  reading.parse(dom, file.file());
+  ElementIndex index(reading.document(), depth);
+
+  std::vector<std::unique_ptr<UMLPackage>> objects;  // those of the last chain, the outermost first
+  for (unsigned int level = 0; level < depth; ++level) {
+    const std::string id = level == 0 ? "c" + std::to_string(chains - 1) : "e";
+    objects.push_back(std::make_unique<UMLPackage>(KYRString(std::string_view(id)), KYRString()));
+    objects.back()->readingNumber = level;
+    if (level > 0) objects.back()->owner = objects[level - 1].get();
+  }
+  const DocumentElement innermost = index.find(*objects.back());
+  ASSERT_TRUE(innermost);
+  EXPECT_EQ(innermost.node(), reading.document().getNodeCount() - 1);
+  EXPECT_LE(index.getComparisonCount(), 2U * chains * depth);
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
 // What an Enterprise Architect section adds to the UML objects.
-#include "tests/xmi/Reading.h"
+#include "tests/extension/ExtensionReading.h"
 
 namespace {
 
@@ -201,5 +201,74 @@ TEST(ExtensionEA, TheSectionItselfCanBeAnEntry) {
       "<properties documentation='d'/></xmi:Extension></xmi:XMI>");
   EXPECT_EQ(reading.model->documentation.view(), "d");
 }
+
+TEST(ExtensionEA, WhatIsMissingIsPassedOver) {
+  for (const char* content :
+       {"", "<properties/>", "<tags/>", "<tags><other name='a'/></tags>", "<documentation/>",
+        "<documentation body='d'/>", "<properties value='d'/>", "text"}) {
+    const Reading reading(withSection("", std::string("<element xmi:idref='m'>") + content + "</element>"));
+    EXPECT_EQ(tagsOf(*reading.model), "") << content;
+    EXPECT_TRUE(reading.model->documentation.isEmpty()) << content;
+  }
+  const Reading named(withSection("", "<element xmi:idref='m'><tags><tag/></tags></element>"));
+  EXPECT_EQ(tagsOf(*named.model), "=;");
+  const Reading unscaled(
+      withSection(oneProperty, "<attribute xmi:idref='a'><properties type='t'/><coords/></attribute>"));
+  EXPECT_EQ(typeOf(unscaled, "a").scale, 0);
+  EXPECT_EQ(unscaled.get<UMLProperty>("a").defaultValue, nullptr);
+}
+
+TEST(ExtensionEA, AScaleIsReadAsANumberAsFarAsItGoes) {
+  struct Row {
+    const char* scale;
+    int expected;
+  };
+  for (const Row& row : std::initializer_list<Row>{{"2", 2},
+                                                   {"0", 0},
+                                                   {"00", 0},
+                                                   {"", 0},
+                                                   {"x", 0},
+                                                   {"3.7", 3},
+                                                   {" -4", -4},
+                                                   {"99999999999", 2147483647},
+                                                   {"-99999999999", -2147483647 - 1}}) {
+    const Reading reading(withSection(
+        oneProperty, std::string("<attribute xmi:idref='a'><properties type='t'/><coords scale='") +
+                         row.scale + "'/></attribute>"));
+    EXPECT_EQ(typeOf(reading, "a").scale, row.expected) << row.scale;
+  }
+}
+
+TEST(ExtensionEA, AnEntryGivesOnlyWhatFitsTheObject) {
+  const Reading reading(withSection(
+      "<packagedElement xmi:type='uml:Package' xmi:id='p'/><packagedElement xmi:type='uml:Parameter' "
+      "xmi:id='q'/>"
+      "<packagedElement xmi:type='uml:AssociationClass' xmi:id='ac'/>" +
+          oneProperty,
+      "<element xmi:idref='p' xmi:type='uml:Boundary'><properties type='t'/><initial body='b'/></element>"
+      "<element xmi:idref='q' xmi:type='uml:Class'><properties type='t'/><initial body='b'/></element>"
+      "<element xmi:idref='ac' xmi:type='uml:Boundary'/><element xmi:idref='a' xmi:type='uml:Boundary'/>"));
+  EXPECT_EQ(typeOf(reading, "q").name.view(), "t");
+  EXPECT_EQ(reading.get<UMLParameter>("q").defaultValue, nullptr);
+  EXPECT_FALSE(reading.get<UMLClass>("ac").isBoundary);
+  EXPECT_EQ(reading.get<UMLProperty>("a").type, nullptr);
+  EXPECT_EQ(reading.parser.getMadeObjects().getCount(), 1U);
+}
+
+TEST(ExtensionEA, ASectionAsDeepAsAFileMayBeNeedsNoStack) {
+  constexpr unsigned int depth = 100000;
+  const DeeperFiles deeper(depth + 10);
+  std::string open;
+  std::string close;
+  for (unsigned int i = 0; i < depth; ++i) {
+    open += "<e xmi:idref='e" + std::to_string(i) + "'>";
+    close += "</e>";
+  }
+  const Reading reading(
+      withSection("", open + "<e xmi:idref='m'><properties documentation='d'/></e>" + close));
+  EXPECT_EQ(reading.model->documentation.view(), "d");
+}
+
+TEST(ExtensionEA, AnyOtherExceptionBecomesTheMessageOfTheReader) { expectUnknownError(withSection("", "")); }
 
 }  // namespace

@@ -4,7 +4,7 @@
 #include <cstdio>
 #include <fstream>
 
-#include "tests/xmi/Reading.h"
+#include "tests/extension/ExtensionReading.h"
 
 namespace {
 
@@ -114,9 +114,48 @@ TEST_F(ExtensionWithModule, AKnownTypeNameOpensNoFile) {
 TEST_F(ExtensionWithModule, OnlyARegularFileIsEverOpened) {
   ASSERT_EQ(mkfifo((folder_ + "/pipe.xml").c_str(), 0600), 0);
   files_.push_back("pipe.xml");
-  readInput(inClass(propertyWithType("a", "pipe.xml#other")));
+  ASSERT_EQ(mkdir((folder_ + "/folder.xml").c_str(), 0700), 0);
+  files_.push_back("folder.xml");
+  ASSERT_EQ(symlink("nowhere", (folder_ + "/link.xml").c_str()), 0);
+  files_.push_back("link.xml");
+  for (const std::string name :
+       {"pipe.xml", "folder.xml", "link.xml", "../../dev/zero", "../../dev/null", "."}) {
+    log.lines.clear();
+    readInput(inClass(propertyWithType("a", name + "#other")));
+    EXPECT_EQ(typeOf("a"), "none") << name;
+    EXPECT_EQ(log.countOf("KBI_UML2XMI_W0003 Could not parse file '" + folder_ + "/" + name + "'"), 1U)
+        << name;
+  }
+}
+
+TEST_F(ExtensionWithModule, AReferenceWithoutAHashOpensItsFile) {
+  write("types.xml", "<library><type xmi:id='TYPES.xml' xmlns:xmi='x' name='Found'/></library>");
+  readInput(inClass(propertyWithType("a", "types.xml")));
+  EXPECT_EQ(typeOf("a"), "Found(types.xml)");
+}
+
+TEST_F(ExtensionWithModule, AnEmptyFragmentOrFilePartFindsNothing) {
+  write("types.xml", "<library><type xmi:id='' xmlns:xmi='x' name='Empty'/></library>");
+  readInput(
+      inClass(propertyWithType("a", "#other") + propertyWithType("b", "#") + propertyWithType("d", "")));
   EXPECT_EQ(typeOf("a"), "none");
-  EXPECT_EQ(log.countOf("KBI_UML2XMI_W0003"), 1U);
+  EXPECT_EQ(typeOf("b"), "none");
+  EXPECT_EQ(log.countOf("KBI_UML2XMI_W0003"), 0U);
+  readInput(inClass(propertyWithType("a", "types.xml#")));
+  EXPECT_EQ(typeOf("a"), "none");
+  EXPECT_EQ(log.countOf("KBI_UML2XMI_S0017 Parsing file 'types.xml'"), 1U);
+}
+
+TEST_F(ExtensionWithModule, AnElementWithoutANameLeavesTheStandardTypes) {
+  const std::string integer = "_m8qbBa86EdiEh75YJ_3n8g";
+  write("types.xml",
+        "<library xmlns:xmi='x'><type xmi:id='" + integer +
+            "' name='Lib.'/><type xmi:id='nameless'/><type xmi:id='plain' name='Plain'/></library>");
+  readInput(inClass(propertyWithType("a", "types.xml#" + integer) +
+                    propertyWithType("b", "types.xml#nameless") + propertyWithType("d", "types.xml#plain")));
+  EXPECT_EQ(typeOf("a"), "Integer(" + integer + ")");
+  EXPECT_EQ(typeOf("b"), "none");
+  EXPECT_EQ(typeOf("d"), "Plain(plain)");
 }
 
 TEST_F(ExtensionWithModule, AModuleThatIsNoXmlEndsTheImport) {
@@ -125,8 +164,11 @@ TEST_F(ExtensionWithModule, AModuleThatIsNoXmlEndsTheImport) {
 }
 
 TEST_F(ExtensionWithModule, TheInputCanBeItsOwnModule) {
-  readInput(inClass(propertyWithType("a", "input.xmi#C2")) + "<!-- -->");
-  EXPECT_EQ(typeOf("a"), "none");
+  readInput(inModel("<packagedElement xmi:type='uml:Class' xmi:id='c' name='Lib.Self'>" +
+                    propertyWithType("a", "input.xmi#C") + propertyWithType("b", "input.xmi#C2") +
+                    "</packagedElement>"));
+  EXPECT_EQ(typeOf("a"), "Self(C)");
+  EXPECT_EQ(typeOf("b"), "none");
   EXPECT_EQ(log.countOf("KBI_UML2XMI_S0017"), 1U);
 }
 
@@ -247,6 +289,107 @@ TEST(Extension, APropertyWhoseTypeIsReadHereGetsNoMultiplicity) {
   EXPECT_EQ(typeOf(reading, "e"), "Integer(_m8qbBa86EdiEh75YJ_3n8g)");
   EXPECT_EQ(reading.get<UMLProperty>("e").lowerValue, nullptr);
 }
+
+TEST(Extension, AParameterGetsItsTypeByReferenceAndNoMultiplicity) {
+  const Reading reading(
+      inClass("<ownedOperation xmi:type='uml:Operation' xmi:id='o'><ownedParameter xmi:type='uml:Parameter' "
+              "xmi:id='p'>"
+              "<type href='x#Boolean'/>" +
+              bounds + "</ownedParameter></ownedOperation>"));
+  const auto& parameter = reading.get<UMLParameter>("p");
+  ASSERT_NE(parameter.type, nullptr);
+  EXPECT_EQ(parameter.type->name.view(), "Boolean");
+  EXPECT_EQ(parameter.lowerValue, nullptr);
+}
+
+TEST(Extension, OfSeveralTypesTheFirstServes) {
+  const Reading reading(inClass(
+      "<ownedAttribute xmi:type='uml:Property' xmi:id='a'><type/><type href='x#Integer'/></ownedAttribute>"
+      "<ownedAttribute xmi:type='uml:Property' xmi:id='b'><Type href='x#Integer'/></ownedAttribute>"));
+  EXPECT_EQ(typeOf(reading, "a"), "none");
+  EXPECT_EQ(typeOf(reading, "b"), "none");
+}
+
+TEST(Extension, MissingPartsOfAMultiplicityArePassedOver) {
+  const std::string lower = "<lowerValue xmi:type='uml:LiteralInteger' value='5'/>";
+  const auto section = [](const std::string& content) {
+    return "<xmi:Extension extender='MagicDraw UML 17.0'>" + content + "</xmi:Extension>";
+  };
+  for (const std::string& content :
+       {section(""), section(lower), section("<modelExtension/>"),
+        section("<modelExtension><lowerValue/></modelExtension>"),
+        section("<modelExtension><lowerValue value='5'/></modelExtension>"),
+        section("<modelExtension><lowerValue xmi:type='uml:LiteralString' value='5'/></modelExtension>"),
+        section("<modelExtension><nested>" + lower + "</nested></modelExtension>"),
+        section("<modelExtension/><modelExtension>" + lower + "</modelExtension>"),
+        section("<modelExtension><lowerValue/>" + lower + "</modelExtension>"),
+        "<xmi:Extension><modelExtension>" + lower + "</modelExtension></xmi:Extension>",
+        "<nested>" + section("<modelExtension>" + lower + "</modelExtension>") + "</nested>"}) {
+    const Reading reading(associationWithEnd(content));
+    EXPECT_EQ(reading.get<UMLProperty>("e").lowerValue, nullptr) << content;
+    EXPECT_EQ(reading.get<UMLProperty>("e").upperValue, nullptr) << content;
+  }
+}
+
+TEST(Extension, ABoundIsReadAsFarAsItsValueGoes) {
+  struct Row {
+    const char* value;
+    int expected;
+  };
+  for (const Row& row :
+       std::initializer_list<Row>{{"", 0}, {"*", 0}, {"-1", -1}, {" 7 ", 7}, {"99999999999", 2147483647}}) {
+    const std::string value = std::string(" value='") + row.value + "'/>";
+    const Reading reading(
+        associationWithEnd("<xmi:Extension extender='MagicDraw UML x'><modelExtension>"
+                           "<lowerValue xmi:type='ULM:no'/></modelExtension><modelExtension/></xmi:Extension>"
+                           "<xmi:Extension extender='MagicDraw UML x'><modelExtension><lowerValue "
+                           "xmi:type='uml:LiteralInteger'" +
+                           value + "<upperValue xmi:type='uml:LiteralUnlimitedNatural'" + value +
+                           "</modelExtension></xmi:Extension>"));
+    const auto& end = reading.get<UMLProperty>("e");
+    EXPECT_EQ(umlCast<UMLLiteralInteger>(end.lowerValue)->value, row.expected) << row.value;
+    EXPECT_EQ(umlCast<UMLLiteralUnlimitedNatural>(end.upperValue)->value.view(), row.value);
+    EXPECT_TRUE(end.lowerValue->id.isEmpty());
+  }
+}
+
+TEST(Extension, ABoundOfTheBodyIsReplacedAndStaysWhereNoneIsGiven) {
+  const std::string body =
+      "<lowerValue xmi:type='uml:LiteralInteger' xmi:id='bl' value='1'/>"
+      "<upperValue xmi:type='uml:LiteralInteger' xmi:id='bu' value='1'/>";
+  const Reading reading(associationWithEnd(body + "<xmi:Extension extender='MagicDraw UML x'><modelExtension>"
+                                                  "<upperValue xmi:type='uml:LiteralUnlimitedNatural' "
+                                                  "xmi:id='u' value='*'/></modelExtension></xmi:Extension>"));
+  const auto& end = reading.get<UMLProperty>("e");
+  EXPECT_EQ(end.lowerValue, reading.find("bl"));
+  EXPECT_EQ(end.upperValue->id.view(), "u");
+}
+
+TEST(Extension, MissingPartsOfCustomPropertiesAreEmptyOrPassedOver) {
+  const Reading reading(inModel(
+      "<packagedElement xmi:type='uml:Class' xmi:id='c'><e source='custom properties'/>"
+      "<e source='custom properties'><details/><details key='k'/><details value='v'/></e>"
+      "<e><details key='no'/></e><nested><e source='custom properties'><details key='no'/></e></nested>"
+      "</packagedElement>"));
+  std::string tags;
+  for (const UMLTaggedValue* const tag : reading.find("c")->taggedValues) {
+    tags += std::string(tag->name.view()) + "=" + std::string(tag->value.view()) + ";";
+  }
+  EXPECT_EQ(tags, "=;k=;=v;");
+}
+
+TEST(Extension, AnIdThatComesAgainElsewhereIsAnotherElement) {
+  const std::string again =
+      "<e xmi:id='c' source='x'><e source='custom properties'><details key='k'/></e></e>";
+  const Reading reading(
+      "<xmi:XMI xmlns:uml='u' xmlns:xmi='x'><xmi:Extension>" + again +
+      "</xmi:Extension><uml:Model xmi:id='m'><packagedElement xmi:type='uml:Class' xmi:id='c'/>"
+      "<packagedElement xmi:type='uml:Package' xmi:id='p'><xmi:Extension>" +
+      again + "</xmi:Extension></packagedElement></uml:Model></xmi:XMI>");
+  EXPECT_TRUE(reading.find("c")->taggedValues.isEmpty());
+}
+
+TEST(Extension, AnyOtherExceptionBecomesTheMessageOfTheReader) { expectUnknownError(inModel("")); }
 
 TEST(Extension, AnObjectWhoseOwnersRunInACircleFindsNothing) {
   const Reading reading(

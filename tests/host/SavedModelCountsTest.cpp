@@ -18,7 +18,8 @@ TEST(SavedModelCounts, CountsObjectsByTheStartsOfTheirLines) {
       "{\"id\":16,\"class\":\"KYRArgument\"},\n"
       "{\"id\":17,\"class\":\"KYRArgument\"}]}]},\n"
       "{\"id\":18,\"class\":\"KYRClass\",\"name\":\"B\",\"classCategory\":9},\n"
-      "{\"id\":19,\"class\":\"KYRClassType\"}]}]}}\n");
+      "{\"id\":19,\"class\":\"KYRClassType\"}],\"diagrams\":[\n"
+      "{\"id\":20,\"class\":\"KYRClassDiagram\",\"name\":\"D\"}]}]}}\n");
   const auto counts = SavedModelCounts::read(file.path);
   ASSERT_TRUE(counts.has_value());
   EXPECT_EQ(counts->packages, 1U);
@@ -27,6 +28,7 @@ TEST(SavedModelCounts, CountsObjectsByTheStartsOfTheirLines) {
   EXPECT_EQ(counts->attributes, 1U);
   EXPECT_EQ(counts->operations, 1U);
   EXPECT_EQ(counts->arguments, 2U);
+  EXPECT_EQ(counts->diagrams, 1U);
 }
 
 TEST(SavedModelCounts, IsNotMisledByTexts) {

@@ -17,7 +17,8 @@ TIME = "2026-01-01T00:00:00Z"
 SUMMARY = re.compile(
     r"Wrote '(?P<output>.*)' in \d+\.\d\d s\n"
     r"packages (?P<packages>\d+), classes (?P<classes>\d+), interfaces (?P<interfaces>\d+), "
-    r"attributes (?P<attributes>\d+), operations (?P<operations>\d+), arguments (?P<arguments>\d+)\n")
+    r"attributes (?P<attributes>\d+), operations (?P<operations>\d+), arguments (?P<arguments>\d+), "
+    r"diagrams (?P<diagrams>\d+)\n")
 INTERFACE = 9
 
 
@@ -33,6 +34,7 @@ def counts_of(path):
         "attributes": names.count("KYRAttribute"),
         "operations": names.count("KYROperation"),
         "arguments": names.count("KYRArgument"),
+        "diagrams": names.count("KYRClassDiagram"),
     }
 
 
@@ -236,7 +238,7 @@ class Log(CommandTest):
         self.assertGreaterEqual(summary.pop("seconds"), 0)
         self.assertEqual(summary, counts_of(self.folder / "out.json"))
         self.assertEqual(summary, {"packages": 1, "classes": 2, "interfaces": 0, "attributes": 1,
-                                   "operations": 1, "arguments": 1})
+                                   "operations": 1, "arguments": 1, "diagrams": 0})
 
     def test_timing_tells_the_phases_in_text_and_json(self):
         phases = ["tokenise", "objects", "link", "extension", "convert", "finish", "save", "release"]

@@ -18,6 +18,7 @@ REPORT = {
     "classes": {"UMLClass": 3, "UMLParameter": 2, "UMLComment": 1, "UMLLiteralString": 1,
                 "UMLGeneralization": 1, "UMLPackage": 1, "UMLPrimitiveType": 1, "UMLProperty": 1,
                 "UMLOperation": 1, "UMLModel": 1},
+    "diagrams": [],
     "references": {"resolved": 27, "unresolved": 1, "withoutId": 0, "unfitting": 0,
                    "firstMissingIds": ["nowhere"]},
     "skippedTypes": [{"type": "uml:StateMachine", "count": 2, "first": "line 20, column 7"}],
@@ -67,6 +68,13 @@ class Report(CommandTest):
     def test_the_report_as_text(self):
         result = self.kyr("inspect", SMALL)
         self.assertEqual((result.code, result.errors, result.output), (DONE, "", TEXT))
+
+    def test_diagrams_are_counted_by_kind(self):
+        result = self.kyr("inspect", SAMPLES / "magicdraw-diagrams.xmi")
+        self.assertIn("Diagrams:     4\n  3  Class Diagram\n  1  Use Case Diagram\n", result.output)
+        report = json.loads(self.kyr("inspect", SAMPLES / "magicdraw-diagrams.xmi", "--json").output)
+        self.assertEqual(report["diagrams"], [{"kind": "Class Diagram", "count": 3},
+                                              {"kind": "Use Case Diagram", "count": 1}])
 
     def test_what_the_file_does_not_tell_is_said(self):
         self.write("shop.xmi", '<uml:Model xmlns:uml="urn:nobody" xmi:id="m"/>'.replace(

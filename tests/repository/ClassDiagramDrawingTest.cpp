@@ -224,6 +224,32 @@ TEST_F(Drawing, AnAssociationIsALineForEachRoleWithTheirTexts) {
   EXPECT_FALSE(draws("<polygon"));
 }
 
+TEST_F(Drawing, LabelsKeepAwayFromOtherBoxes) {
+  KYRClass near;
+  addRole("left", "", first);
+  addRole("right", "", second);
+  box(first, 100, 100);
+  box(second, 400, 100);
+  line(association, "").displayFlags = 0x50;
+  line(*association.roles[0], "250,100;150,100");
+  line(*association.roles[1], "250,100;350,100");
+  EXPECT_TRUE(draws("<text x=\"346\" y=\"93.5\""));
+  box(near, 330, 60, 100, 70);  // over the line's end
+  EXPECT_TRUE(draws("<text x=\"346\" y=\"115.5\""));
+}
+
+TEST_F(Drawing, ALineThatDoesNotFitIsLeftOutButNotTheName) {
+  first.setName("Order");
+  addAttribute("fits");
+  addAttribute("doesNot");
+  auto& shape = box(first, 100, 100, 100, 50);
+  EXPECT_TRUE(draws("fits"));
+  EXPECT_FALSE(draws("doesNot"));
+  shape.height = 8;
+  EXPECT_TRUE(draws("Order"));
+  EXPECT_FALSE(draws("fits"));
+}
+
 TEST_F(Drawing, TheWholeBearsTheDiamondFilledForAComposition) {
   addRole("", "", first);
   addRole("", "", second)->isAggregate = true;
@@ -294,8 +320,14 @@ TEST_F(Drawing, OddModelsGiveValidPictures) {
   getSubtypeGeneralizationRole(&generalization, &first, true);
   box(first, largest, smallest, largest, largest).fontSize = largest;
   box(second, smallest, largest, smallest, smallest).lineWidth = largest;
-  line(association, "nonsense");
+  association.setName("name");
+  association.roles[0]->setName("role");
+  auto& own = line(association, "nonsense");
+  own.displayFlags = -1;
+  own.fontSize = largest;
   line(*association.roles[0], "2147483647,-2147483648");
+  addRole("other", "*", second);
+  line(*association.roles[1], "-2147483648,2147483647;-2147483648,2147483647;2147483647,2147483647");
   line(*generalization.subtypeRoles[0], "0,0;0,0;0,0");
   line(generalization, "1,1;2,2");
   auto* const loose = new KYRRelationshipProjection();

@@ -12,7 +12,7 @@ TEST(KYRRepositoryMessages, StandInTheLibrarysCatalogue) {
 
 TEST(KYRRepositoryMessages, CarryCodeAndArguments) {
   EXPECT_EQ(KYRRepositoryMessages::CANNOT_SAVE.getMessage(KYRString("a.json"), KYRString("disk full")),
-            "[KYRSTD_F0120] The model cannot be saved to 'a.json': disk full");
+            "[KYRSTD_F0120] The file 'a.json' cannot be saved: disk full");
   EXPECT_EQ(KYRRepositoryMessages::NO_OBJECT.getMessage(),
             "[KYRSTD_F0101] An object was to be added where there is none");
 }

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 
 #include <csignal>
 #include <filesystem>
@@ -9,6 +11,16 @@
 #include <sstream>
 
 #include "foundation/KYRException.h"
+
+namespace {
+int syncCount = 0;
+}
+
+// Stands before the one of the C library, so that calls can be counted.
+extern "C" KYR_EXPORT int fsync(int descriptor) {
+  ++syncCount;
+  return static_cast<int>(syscall(SYS_fsync, descriptor));
+}
 
 namespace {
 
@@ -58,6 +70,21 @@ TEST_F(ReplacedFiles, WithoutCommitTheOldFileStaysAndNothingElseIsLeft) {
   EXPECT_EQ(filesInFolder(), 1U);
 }
 
+TEST_F(ReplacedFiles, CommitWaitsForTheDiskUnlessToldNotTo) {
+  const auto syncsOf = [this](ReplacedFile::Wait wait) {
+    const int before = syncCount;
+    ReplacedFile output(file(), wait);
+    output.write(wait == ReplacedFile::Wait::untilNamed ? "named" : "on disk");
+    output.commit();
+    return syncCount - before;
+  };
+  EXPECT_EQ(syncsOf(ReplacedFile::Wait::untilOnDisk), 2);  // the file and its directory
+  EXPECT_EQ(content(), "on disk");
+  EXPECT_EQ(syncsOf(ReplacedFile::Wait::untilNamed), 0);
+  EXPECT_EQ(content(), "named");
+  EXPECT_EQ(filesInFolder(), 1U);
+}
+
 TEST_F(ReplacedFiles, TwoAtATimeDoNotMeet) {
   ReplacedFile first(file());
   ReplacedFile second(file());
@@ -97,7 +124,7 @@ TEST_F(ReplacedFiles, AFailedWriteLeavesTheOldFile) {
   }
   setrlimit(RLIMIT_FSIZE, &before);
   std::signal(SIGXFSZ, handler);
-  EXPECT_EQ(message, "[KYRSTD_F0120] The model cannot be saved to '" + path_ + "': File too large");
+  EXPECT_EQ(message, "[KYRSTD_F0120] The file '" + path_ + "' cannot be saved: File too large");
   EXPECT_EQ(content(), "old");
   EXPECT_EQ(filesInFolder(), 1U);
 }

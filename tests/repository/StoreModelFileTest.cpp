@@ -215,14 +215,14 @@ TEST_F(StoreModelFile, ALinkIsFollowed) {
 TEST_F(StoreModelFile, ATargetThatIsNoFileIsRefused) {
   const KYRStoreModel model;
   EXPECT_EQ(failureOf([&] { saveStoreModelFile(KYRFile(folder_.c_str()), model); }),
-            "[KYRSTD_F0121] The model cannot be saved to '" + folder_ + "': it is not a regular file");
+            "[KYRSTD_F0121] The file '" + folder_ + "' cannot be saved: it is not a regular file");
   EXPECT_EQ(failureOf([&] { saveStoreModelFile(KYRFile("/dev/null"), model); }),
-            "[KYRSTD_F0121] The model cannot be saved to '/dev/null': it is not a regular file");
+            "[KYRSTD_F0121] The file '/dev/null' cannot be saved: it is not a regular file");
   EXPECT_EQ(failureOf([&] { saveStoreModelFile(KYRFile(""), model); }),
-            "[KYRSTD_F0120] The model cannot be saved to '': No such file or directory");
+            "[KYRSTD_F0120] The file '' cannot be saved: No such file or directory");
   const std::string nowhere = path("no/such/folder.json");
   EXPECT_EQ(failureOf([&] { saveStoreModelFile(KYRFile(nowhere.c_str()), model); }),
-            "[KYRSTD_F0120] The model cannot be saved to '" + nowhere + "': No such file or directory");
+            "[KYRSTD_F0120] The file '" + nowhere + "' cannot be saved: No such file or directory");
   EXPECT_EQ(filesInFolder(), 0U);
 }
 
