@@ -38,15 +38,15 @@ KYRString buildLogicalName(const KYRString& typeName, int length, int scale) {
 void KYROmgUml2XmiImportBridge::assignFeatureType(KYRObject* feature) {
   switch (feature->getElementType()) {
     case KYRElementType::attribute:
-      dynamic_cast<KYRAttribute&>(*feature).addType(typeOf(umlCast<UMLTypedElement>(feature->umlElement)));
+      static_cast<KYRAttribute&>(*feature).addType(typeOf(umlCast<UMLTypedElement>(feature->umlElement)));
       break;
     case KYRElementType::argument:
-      dynamic_cast<KYRArgument&>(*feature).addType(typeOf(umlCast<UMLTypedElement>(feature->umlElement)));
+      static_cast<KYRArgument&>(*feature).addType(typeOf(umlCast<UMLTypedElement>(feature->umlElement)));
       break;
     case KYRElementType::operation: {
       const auto* const element = umlCast<UMLOperation>(feature->umlElement);
       if (element == nullptr || element->type == nullptr) break;  // it returns nothing
-      dynamic_cast<KYROperation&>(*feature).addReturnType(convertType(element->type));
+      static_cast<KYROperation&>(*feature).addReturnType(convertType(element->type));
       break;
     }
     default:

@@ -7,21 +7,20 @@ namespace {
 constexpr std::size_t firstSlots = 16384;
 }
 
-IdTable::IdTable() : entries_(1), slots_(firstSlots, emptyId) {}
+IdTable::IdTable() : entries_(1), slots_(firstSlots) {}
 
 IdTable::Number IdTable::intern(const KYRString& id) {
   if (id.isEmpty()) return emptyId;
   const std::uint32_t hash = id.hashCode();
-  std::size_t slot = hash & (slots_.size() - 1);
-  while (slots_[slot] != emptyId) {
-    const Entry& entry = entries_[slots_[slot]];
-    if (entry.hash == hash && entry.text == id) return slots_[slot];
-    slot = (slot + 1) & (slots_.size() - 1);
+  const std::size_t mask = slots_.size() - 1;
+  std::size_t at = hash & mask;
+  for (; slots_[at].number != emptyId; at = (at + 1) & mask) {
+    if (slots_[at].hash == hash && entries_[slots_[at].number].text == id) return slots_[at].number;
   }
+  Slot* free = &slots_[at];
   if (entries_.size() * 2 > slots_.size()) {
     grow();
-    slot = hash & (slots_.size() - 1);
-    while (slots_[slot] != emptyId) slot = (slot + 1) & (slots_.size() - 1);
+    free = &findFree(hash);
   }
   Entry& entry = entries_.emplace_back();
   if (id.isBorrowed()) {
@@ -29,21 +28,25 @@ IdTable::Number IdTable::intern(const KYRString& id) {
   } else {
     entry.text = id;
   }
-  entry.hash = hash;
-  slots_[slot] = static_cast<Number>(entries_.size() - 1);
-  return slots_[slot];
+  *free = {hash, static_cast<Number>(entries_.size() - 1)};
+  return free->number;
 }
 
 void IdTable::enter(Number id, UMLElement* object) noexcept {
   if (id != emptyId && entries_[id].object == nullptr) entries_[id].object = object;
 }
 
+IdTable::Slot& IdTable::findFree(std::uint32_t hash) noexcept {
+  const std::size_t mask = slots_.size() - 1;
+  std::size_t at = hash & mask;
+  while (slots_[at].number != emptyId) at = (at + 1) & mask;
+  return slots_[at];
+}
+
 void IdTable::grow() {
-  std::vector<Number> slots(slots_.size() * 2, emptyId);
-  for (std::size_t i = 1; i < entries_.size(); ++i) {
-    std::size_t slot = entries_[i].hash & (slots.size() - 1);
-    while (slots[slot] != emptyId) slot = (slot + 1) & (slots.size() - 1);
-    slots[slot] = static_cast<Number>(i);
+  std::vector<Slot> old(slots_.size() * 2);
+  old.swap(slots_);
+  for (const Slot& slot : old) {
+    if (slot.number != emptyId) findFree(slot.hash) = slot;
   }
-  slots_ = std::move(slots);
 }

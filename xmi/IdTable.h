@@ -23,6 +23,8 @@ class IdTable {
   Number intern(const KYRString& id);
   /// Enters an object under its id, unless one is there already or the id is empty.
   void enter(Number id, UMLElement* object) noexcept;
+  /// Asks the processor for what `find` will read of that id.
+  void prefetch(Number id) const noexcept { __builtin_prefetch(&entries_[id]); }
   /// The first object entered under the id, or null.
   UMLElement* find(Number id) const noexcept { return entries_[id].object; }
   const KYRString& getText(Number id) const noexcept { return entries_[id].text; }
@@ -31,10 +33,15 @@ class IdTable {
   struct Entry {
     KYRString text;
     UMLElement* object = nullptr;
-    std::uint32_t hash = 0;
   };
+  // The hash stands beside the number, so that walking over other ids reads no entry.
+  struct Slot {
+    std::uint32_t hash = 0;
+    Number number = emptyId;  // emptyId: free
+  };
+  Slot& findFree(std::uint32_t hash) noexcept;
   void grow();
 
   std::vector<Entry> entries_;
-  std::vector<Number> slots_;  // open addressing; emptyId marks a free one
+  std::vector<Slot> slots_;  // open addressing; a power of two, at most half full
 };

@@ -99,8 +99,22 @@ void XMIParser::reportUnknownTags() {
   }
 }
 
+// The ids of a link lie anywhere in memory, and so do the objects that bear them: both are asked for
+// some links ahead.
+void XMIParser::prefetchLinks(std::size_t at) const noexcept {
+  constexpr std::size_t idsAhead = 24;
+  constexpr std::size_t objectsAhead = 8;
+  if (at + idsAhead >= pendingLinks.size()) return;
+  ids.prefetch(pendingLinks[at + idsAhead].first);
+  ids.prefetch(pendingLinks[at + idsAhead].second);
+  __builtin_prefetch(ids.find(pendingLinks[at + objectsAhead].first));
+  __builtin_prefetch(ids.find(pendingLinks[at + objectsAhead].second));
+}
+
 void XMIParser::resolveLinks() {
-  for (const PendingLink& link : pendingLinks) {
+  for (std::size_t at = 0; at < pendingLinks.size(); ++at) {
+    prefetchLinks(at);
+    const PendingLink& link = pendingLinks[at];
     UMLElement* const first = ids.find(link.first);
     UMLElement* const second = ids.find(link.second);
     const bool linked = first != nullptr && second != nullptr && linkRelationship(first, second, link.kind);

@@ -125,6 +125,7 @@ class XMIParser {
 
   // The end of a parse, in order.
   void reportUnknownTags();
+  void prefetchLinks(std::size_t at) const noexcept;
   void resolveLinks();
   void attachComments();
   void runToolExtension();

@@ -16,7 +16,7 @@ class Saving {
   Saving(const KYRStoreModel& model, StoreModelWriter& writer) : numbers_(model), writer_(writer) {}
 
   void enter(const KYRObject& object, const StoredClass& stored) {
-    writer_.beginObject(numbers_.get(&object), stored.name);
+    writer_.beginObject(++entered_, stored.name);  // the numbers follow the walk
     for (const StoredField* field : stored.values) write(object, *field);
     if (const auto* element = dynamic_cast<const KYRElement*>(&object)) writePropertyValues(*element);
   }
@@ -78,6 +78,7 @@ class Saving {
   }
 
   StoredNumbers numbers_;
+  unsigned int entered_ = 0;
   StoreModelWriter& writer_;
 };
 
