@@ -1,4 +1,4 @@
-// Saving and loading in JSON: the ties between the files, RapidJSON, and what knows models.
+// Saving and loading: the ties between the files, RapidJSON, and what knows models.
 #include "repository/storage/StoreModelFile.h"
 
 #include <rapidjson/error/en.h>
@@ -11,6 +11,7 @@
 #include "repository/storage/JsonStoreModelWriter.h"
 #include "repository/storage/ReplacedFile.h"
 #include "repository/storage/SavedModelBuilder.h"
+#include "repository/storage/SqliteModelFile.h"
 
 namespace {
 
@@ -57,14 +58,30 @@ class JsonEvents {
                                                  KYRString(rapidjson::GetParseError_En(error)));
 }
 
-}  // namespace
-
-void saveStoreModelFile(const KYRFile& file, const KYRStoreModel& model) {
+template <class Writer>
+void saveAsText(const KYRFile& file, const KYRStoreModel& model) {
   ReplacedFile output(file);
-  JsonStoreModelWriter writer(output);
+  Writer writer(output);
   writeStoreModel(model, writer);
   output.commit();
 }
+
+}  // namespace
+
+void saveStoreModelFile(const KYRFile& file, const KYRStoreModel& model, StoreModelFormat format) {
+  switch (format) {
+    case StoreModelFormat::json:
+      return saveAsText<JsonStoreModelWriter>(file, model);
+    case StoreModelFormat::sqlite:
+      return saveSqliteModel(file, model);
+  }
+}
+
+void saveStoreModelFile(const KYRFile& file, const KYRStoreModel& model) {
+  saveStoreModelFile(file, model, StoreModelFormat::json);
+}
+
+void appendStoreModelFile(const KYRFile& file, const KYRStoreModel& model) { appendSqliteModel(file, model); }
 
 std::unique_ptr<KYRStoreModel> loadStoreModel(const KYRFile& file) {
   constexpr unsigned int flags = rapidjson::kParseIterativeFlag | rapidjson::kParseValidateEncodingFlag;

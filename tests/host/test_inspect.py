@@ -43,7 +43,7 @@ Objects:      13
   1  UMLModel
 References:   27 resolved, 1 unresolved, 0 between classes that do not fit
   first ids that no element bears:
-    nowhere
+    'nowhere'
 Skipped values of xmi:type: 1
   2  uml:StateMachine  first at line 20, column 7
 Unknown tags: 2
