@@ -16,9 +16,9 @@
 
 namespace {
 
-// Pages in memory, in KiB. Rows are added at the ends of the tables, so more would not be looked at again.
+// Up to 256 MiB of pages stay in memory, so that indexes are made of rows that need not be read back.
 constexpr const char* settings =
-    "PRAGMA page_size = 8192; PRAGMA cache_size = -65536; PRAGMA temp_store = MEMORY; PRAGMA foreign_keys = "
+    "PRAGMA page_size = 8192; PRAGMA cache_size = -262144; PRAGMA temp_store = MEMORY; PRAGMA foreign_keys = "
     "OFF;";
 constexpr const char* settingsOfOwnFile =
     "PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF; PRAGMA locking_mode = EXCLUSIVE;";

@@ -108,7 +108,7 @@ class Report(CommandTest):
         text = self.kyr("inspect", "shop.xmi").output
         self.assertEqual(text.count("oddity"), 20)
         self.assertIn("  and 10 more, which '--json' lists\n", text)
-        self.assertIn("    " + "x" * 120 + "...\n", text)
+        self.assertIn("    '" + "x" * 120 + "...'\n", text)
         report = json.loads(self.kyr("inspect", "shop.xmi", "--json").output)
         self.assertEqual(len(report["unknownTags"]), 30)
         self.assertEqual(report["references"]["firstMissingIds"], [long_id])
