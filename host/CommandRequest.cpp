@@ -96,7 +96,7 @@ void Definition::defineModelFormat(CLI::App& command) {
   };
   command.add_option_function<std::string>("--format", set, textOf(KYRHostTexts::IMPORT_HELP_FORMAT))
       ->type_name("FORMAT")
-      ->check(CLI::IsMember({"json", "sqlite"}).description(""));
+      ->check(CLI::IsMember({"json", "sqlite", "sql"}).description(""));
   command.add_flag("--append", request_.import.isAppending, textOf(KYRHostTexts::IMPORT_HELP_APPEND));
 }
 

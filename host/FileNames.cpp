@@ -15,6 +15,7 @@ struct Format {
 constexpr Format formats[] = {
     {"json", StoreModelFormat::json},
     {"sqlite", StoreModelFormat::sqlite},
+    {"sql", StoreModelFormat::sql},
 };
 
 std::string nameOf(StoreModelFormat format) {

@@ -12,7 +12,7 @@ namespace FileNames {
 /// file stands in the current folder. The extension of the input's name is replaced by that of the format.
 std::string outputOf(const std::string& input, const std::string& output, StoreModelFormat format);
 
-/// The format that a file of that name has by its extension: ".sqlite" or ".sqlite3"; JSON else.
+/// The format that a file of that name has by its extension: ".sqlite", ".sqlite3" or ".sql"; JSON else.
 StoreModelFormat formatOf(const std::string& output);
 
 /// The format of that name; nothing when there is none.

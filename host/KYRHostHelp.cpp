@@ -48,10 +48,10 @@ const HostText<0> IMPORT_HELP_OUTPUT(
     "IMPORT_HELP_OUTPUT",
     "The file to write, or a folder to write it in. Without it: the name of the "
     "model file with the extension .json, in the current folder");
-const HostText<0> IMPORT_HELP_FORMAT(
-    "IMPORT_HELP_FORMAT",
-    "json, or sqlite: a database to query. Without it the extension of the output tells, .sqlite "
-    "for a database; anything else is JSON");
+const HostText<0> IMPORT_HELP_FORMAT("IMPORT_HELP_FORMAT",
+                                     "json; sqlite: a database to query; sql: statements that PostgreSQL "
+                                     "loads. Without it the extension of the "
+                                     "output tells, .sqlite or .sql; anything else is JSON");
 const HostText<0> IMPORT_HELP_APPEND("IMPORT_HELP_APPEND",
                                      "Add the model to the SQLite database beside those that are there. "
                                      "One of the same file path is replaced");

@@ -268,17 +268,13 @@ std::string typeOf(const SqlTable& table, const SqlColumn& column, SqlSchema::Di
       break;
   }
   if (column.isRequired) type += " NOT NULL";
-  if (column.name == "origin_path") type += " UNIQUE";
+  if (isSqlite && column.name == "origin_path") type += " UNIQUE";
   return type;
 }
 
 bool isIndexed(const SqlTable& table, const SqlColumn& column) {
   if (column.name == "model_id" || &column == &table.columns.front()) return !table.holdsObjects;
   return column.kind == Kind::reference || column.name == "name" || column.name == "source_id";
-}
-
-std::string indexName(const SqlTable& table, const SqlColumn& column) {
-  return std::string(table.name) + "_by_" + column.name;
 }
 
 }  // namespace
@@ -308,26 +304,17 @@ std::string SqlSchema::addForeignKeys() const {
   return sql;
 }
 
-std::string SqlSchema::createIndexes() const {
+std::string SqlSchema::createIndexes(const IndexChoice& isWanted) const {
   std::string sql;
   for (const SqlTable& table : tables_) {
-    for (const SqlColumn& column : table.columns) {
-      if (!isIndexed(table, column)) continue;
-      sql += "CREATE INDEX " + indexName(table, column) + " ON " + std::string(table.name) + " (" +
-             column.name + ")";
+    for (std::size_t at = 0; at < table.columns.size(); ++at) {
+      const SqlColumn& column = table.columns[at];
+      if (!isIndexed(table, column) || (isWanted && !isWanted(table, at))) continue;
+      sql += "CREATE INDEX " + std::string(table.name) + "_by_" + column.name + " ON " +
+             std::string(table.name) + " (" + column.name + ")";
       // Where most rows have no value, they need not stand in the index.
       if (!column.isRequired) sql += " WHERE " + column.name + " IS NOT NULL";
       sql += ";\n";
-    }
-  }
-  return sql;
-}
-
-std::string SqlSchema::dropIndexes() const {
-  std::string sql;
-  for (const SqlTable& table : tables_) {
-    for (const SqlColumn& column : table.columns) {
-      if (isIndexed(table, column)) sql += "DROP INDEX " + indexName(table, column) + ";\n";
     }
   }
   return sql;

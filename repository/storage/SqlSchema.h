@@ -6,6 +6,7 @@
 // which table holds the owner. docs/sqlite.md describes the result.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -87,8 +88,9 @@ class KYR_EXPORT SqlSchema {
   std::string createTables(Dialect dialect) const;
   /// Foreign keys as statements of their own; SQLite has them in its tables.
   std::string addForeignKeys() const;
-  std::string createIndexes() const;
-  std::string dropIndexes() const;
+  /// Whether the column, which has an index, is to get it; an empty function wants all.
+  using IndexChoice = std::function<bool(const SqlTable& table, std::size_t column)>;
+  std::string createIndexes(const IndexChoice& isWanted = {}) const;
   std::string createViews() const;
 
  private:

@@ -11,6 +11,7 @@
 #include "repository/storage/JsonStoreModelWriter.h"
 #include "repository/storage/ReplacedFile.h"
 #include "repository/storage/SavedModelBuilder.h"
+#include "repository/storage/SqlStoreModelWriter.h"
 #include "repository/storage/SqliteModelFile.h"
 
 namespace {
@@ -74,6 +75,8 @@ void saveStoreModelFile(const KYRFile& file, const KYRStoreModel& model, StoreMo
       return saveAsText<JsonStoreModelWriter>(file, model);
     case StoreModelFormat::sqlite:
       return saveSqliteModel(file, model);
+    case StoreModelFormat::sql:
+      return saveAsText<SqlStoreModelWriter>(file, model);
   }
 }
 

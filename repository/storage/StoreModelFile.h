@@ -10,6 +10,7 @@
 enum class StoreModelFormat {
   json,
   sqlite,
+  sql,
 };
 
 /// Writes the model to the file. It is written beside its target and renamed at the end, so whatever

@@ -35,6 +35,7 @@ TEST(FileNames, TheOutputIsNamedAfterTheInput) {
 TEST(FileNames, TheExtensionOfTheOutputTellsTheFormat) {
   EXPECT_EQ(FileNames::formatOf("shop.sqlite"), StoreModelFormat::sqlite);
   EXPECT_EQ(FileNames::formatOf("a.b/shop.sqlite3"), StoreModelFormat::sqlite);
+  EXPECT_EQ(FileNames::formatOf("shop.sql"), StoreModelFormat::sql);
   for (const char* name :
        {"", "shop", "shop.json", "shop.xyz", "shop.", "sqlite", ".sqlite", "a.sqlite/shop"}) {
     EXPECT_EQ(FileNames::formatOf(name), StoreModelFormat::json) << name;
