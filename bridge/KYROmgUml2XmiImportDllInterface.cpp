@@ -20,7 +20,6 @@ namespace {
 
 constexpr const char* bridgeName = "OmgUml2XmiImport";
 constexpr const char* pluginName = "KYROmgUml2XmiImport";
-constexpr const char* versionPrefix = "10.0.1 - ";
 constexpr const char* fileExtensions[] = {"xml", "xmi", "uml", "uml2", nullptr};
 
 }  // namespace
@@ -36,7 +35,9 @@ KYROmgUml2XmiImportDllInterface::KYROmgUml2XmiImportDllInterface() = default;
 KYROmgUml2XmiImportDllInterface::~KYROmgUml2XmiImportDllInterface() = default;
 
 const KYRString& KYROmgUml2XmiImportDllInterface::getBuildVersion() {
-  if (buildVersion.isEmpty()) buildVersion = versionPrefix + KYRDate(buildTime).getPstTimestamp();
+  if (buildVersion.isEmpty()) {
+    buildVersion = KYRString(projectVersion) + " - " + KYRDate(buildTime).getPstTimestamp();
+  }
   return buildVersion;
 }
 

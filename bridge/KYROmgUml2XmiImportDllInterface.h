@@ -13,7 +13,7 @@ class KYROmgUml2XmiImportDllInterface final : public KYRImportBridgeDllInterface
   KYROmgUml2XmiImportDllInterface();
   ~KYROmgUml2XmiImportDllInterface() override;
 
-  /// "10.0.1 - " and the build time; computed at the first call.
+  /// The version of the project, " - " and the build time; computed at the first call.
   const KYRString& getBuildVersion() override;
   void getSpecification(const KYRString& name, KYRBridgeSpecification& specification) override;
   void getOptionList(KYROptionList& options) override;

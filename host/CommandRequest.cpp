@@ -4,9 +4,10 @@
 #include <CLI/CLI.hpp>
 #include <sstream>
 
+#include "BuildTime.h"
 #include "foundation/KYRDate.h"
+#include "host/FileNames.h"
 #include "host/HelpFormatter.h"
-#include "host/HostVersion.h"
 #include "host/KYRHostTexts.h"
 #include "repository/datatypes/KYRDataStores.h"
 
@@ -36,6 +37,8 @@ std::string checkStore(const std::string& name) {
   return std::string(KYRHostTexts::NO_SUCH_STORE.toString(KYRString(name), known).view());
 }
 
+std::string checkName(const std::string& text) { return text.empty() ? textOf(KYRHostTexts::NO_NAME) : ""; }
+
 class Definition {
  public:
   explicit Definition(CommandRequest& request);
@@ -44,6 +47,7 @@ class Definition {
  private:
   CLI::App& addCommand(const char* name, const HostText<0>& help, const HostText<0>& examples);
   void defineImport();
+  void defineModelFormat(CLI::App& command);
   void defineLogFormat(CLI::App& command);
   void defineInfo();
   void defineInspect();
@@ -60,7 +64,7 @@ Definition::Definition(CommandRequest& request)
   app_.formatter(std::make_shared<HelpFormatter>());  // commands take it over
   app_.footer(textOf(KYRHostTexts::HELP_EXAMPLES));
   app_.set_help_flag("-h,--help", textOf(KYRHostTexts::HELP_HELP));
-  const KYRString version = KYRHostTexts::VERSION.toString(KYRString(hostVersion));
+  const KYRString version = KYRHostTexts::VERSION.toString(KYRString(projectVersion));
   app_.set_version_flag("--version", version.getCharacters(), textOf(KYRHostTexts::HELP_VERSION));
   app_.require_subcommand(1, 1);
   defineImport();
@@ -82,7 +86,10 @@ void Definition::defineImport() {
   CLI::App& command = addCommand("import", IMPORT_HELP, IMPORT_HELP_EXAMPLES);
   ImportCommand::Settings& settings = request_.import;
   command.add_option("FILE", settings.file, textOf(IMPORT_HELP_FILE))->required()->type_name("");
-  command.add_option("-o,--output", settings.output, textOf(IMPORT_HELP_OUTPUT))->type_name("PATH");
+  command.add_option("-o,--output", settings.output, textOf(IMPORT_HELP_OUTPUT))
+      ->type_name("PATH")
+      ->check(CLI::Validator(checkName, ""));
+  defineModelFormat(command);
   command.add_option("--root-package", settings.rootPackage, textOf(IMPORT_HELP_ROOT_PACKAGE))
       ->type_name("NAME");
   command.add_option("--modification-time", settings.modificationTime, textOf(IMPORT_HELP_MODIFICATION_TIME))
@@ -94,6 +101,16 @@ void Definition::defineImport() {
   defineLogFormat(command);
   command.add_option("--log-file", settings.logFile, textOf(IMPORT_HELP_LOG_FILE))->type_name("PATH");
   addPlugin(command, settings.plugin);
+}
+
+void Definition::defineModelFormat(CLI::App& command) {
+  const auto set = [this](const std::string& name) {
+    request_.import.modelFormat = FileNames::findFormat(name);
+  };
+  command.add_option_function<std::string>("--format", set, textOf(KYRHostTexts::IMPORT_HELP_FORMAT))
+      ->type_name("FORMAT")
+      ->check(CLI::IsMember({"json", "sqlite", "sql"}).description(""));
+  command.add_flag("--append", request_.import.isAppending, textOf(KYRHostTexts::IMPORT_HELP_APPEND));
 }
 
 void Definition::defineLogFormat(CLI::App& command) {
@@ -157,6 +174,10 @@ void Definition::read(int argumentCount, const char* const* arguments) {
     std::ostringstream answer;
     if (isAnswer) app_.exit(error, answer, answer);
     request_.text = isAnswer ? answer.str() : error.what();
+    const bool isCommandMissing = !isAnswer && app_.get_subcommands().empty();
+    if (isCommandMissing && argumentCount > 1 && arguments[1][0] != '-') {
+      request_.text = KYRHostTexts::UNKNOWN_COMMAND.toString(KYRString(arguments[1])).view();
+    }
     return;
   }
   using Kind = CommandRequest::Kind;

@@ -5,8 +5,55 @@
 
 namespace fs = std::filesystem;
 
-std::string FileNames::outputOf(const std::string& input, const std::string& output) {
-  const fs::path name = fs::path(input).filename().replace_extension(".json");
+namespace {
+
+struct Format {
+  const char* name;
+  StoreModelFormat format;
+};
+
+constexpr Format formats[] = {
+    {"json", StoreModelFormat::json},
+    {"sqlite", StoreModelFormat::sqlite},
+    {"sql", StoreModelFormat::sql},
+};
+
+std::string nameOf(StoreModelFormat format) {
+  for (const Format& entry : formats) {
+    if (entry.format == format) return entry.name;
+  }
+  return {};
+}
+
+}  // namespace
+
+std::optional<StoreModelFormat> FileNames::findFormat(const std::string& name) {
+  for (const Format& entry : formats) {
+    if (entry.name == name) return entry.format;
+  }
+  return std::nullopt;
+}
+
+StoreModelFormat FileNames::formatOf(const std::string& output) {
+  std::error_code failure;
+  const std::string extension = fs::path(output).extension().string();
+  if (fs::is_directory(output, failure)) return StoreModelFormat::json;
+  if (extension == ".sqlite3") return StoreModelFormat::sqlite;
+  if (extension.empty()) return StoreModelFormat::json;
+  return findFormat(extension.substr(1)).value_or(StoreModelFormat::json);
+}
+
+std::string FileNames::missingFolderOf(const std::string& file) {
+  const std::size_t slash = file.rfind('/');
+  if (slash == std::string::npos) return {};
+  std::error_code failure;
+  std::string folder = file.substr(0, slash + 1);
+  return fs::is_directory(folder, failure) ? std::string() : folder;
+}
+
+std::string FileNames::outputOf(const std::string& input, const std::string& output,
+                                StoreModelFormat format) {
+  const fs::path name = fs::path(input).filename().replace_extension("." + nameOf(format));
   if (output.empty()) return name;
   std::error_code failure;
   return fs::is_directory(output, failure) ? (fs::path(output) / name).string() : output;

@@ -4,7 +4,6 @@
 #include <chrono>
 #include <cstdio>
 #include <memory>
-#include <optional>
 
 #include "foundation/KYRFile.h"
 #include "foundation/KYROption.h"
@@ -14,7 +13,6 @@
 #include "host/KYRHostTexts.h"
 #include "host/PhaseReport.h"
 #include "host/PluginLibrary.h"
-#include "host/SavedModelCounts.h"
 #include "host/TextOut.h"
 #include "repository/plugin/KYRImportBridgeDllInterface.h"
 
@@ -49,19 +47,40 @@ void countsToJson(JsonOut& json, const SavedModelCounts& counts) {
 int ImportCommand::run() {
   using Clock = std::chrono::steady_clock;
   const Clock::time_point start = Clock::now();
-  target_ = FileNames::outputOf(settings_.file, settings_.output);
-  if (filesClash()) return ExitCode::wrongUsage;
+  const StoreModelFormat format = findFormat();
+  target_ = FileNames::outputOf(settings_.file, settings_.output, format);
+  if (isWrongUsage()) return ExitCode::wrongUsage;
+  const std::string missing = FileNames::missingFolderOf(target_);
+  if (!missing.empty()) {
+    KYRHostMessages::NO_FOLDER.throwException(KYRString(target_), KYRString(missing));
+  }
   if (!settings_.logFile.empty()) log_.openFile(settings_.logFile);
   library_.load(settings_.plugin);
   KYROptionList options;
   fillOptions(options);
   KYRFile target{KYRString(target_)};
   const PhaseReport phases(settings_.withTiming);
+  const ModelSaver saver(format, settings_.isAppending);
   if (!library_.getPlugin().run(originId, target, options, log_)) {
     KYRHostMessages::PLUGIN_REFUSED.throwException();
   }
-  if (!settings_.isQuiet) writeSummary(std::chrono::duration<double>(Clock::now() - start).count(), phases);
+  if (!settings_.isQuiet) {
+    writeSummary(std::chrono::duration<double>(Clock::now() - start).count(), saver.getCounts(), phases);
+  }
   return ExitCode::done;
+}
+
+StoreModelFormat ImportCommand::findFormat() const {
+  if (settings_.modelFormat.has_value()) return *settings_.modelFormat;
+  return settings_.isAppending ? StoreModelFormat::sqlite : FileNames::formatOf(settings_.output);
+}
+
+bool ImportCommand::isWrongUsage() {
+  if (settings_.isAppending && findFormat() != StoreModelFormat::sqlite) {
+    log_.fail(KYRHostMessages::APPEND_NEEDS_SQLITE.getMessage());
+    return true;
+  }
+  return filesClash();
 }
 
 bool ImportCommand::filesClash() {
@@ -100,8 +119,8 @@ void ImportCommand::setOption(KYROptionList& options, const char* identifier, co
   option->setValue(KYRString(value));
 }
 
-void ImportCommand::writeSummary(double seconds, const PhaseReport& phases) {
-  const std::optional<SavedModelCounts> counts = SavedModelCounts::read(target_);
+void ImportCommand::writeSummary(double seconds, const std::optional<SavedModelCounts>& counts,
+                                 const PhaseReport& phases) {
   if (settings_.format == HostLog::Format::json) {
     JsonOut json;
     json.beginObject();

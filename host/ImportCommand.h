@@ -1,9 +1,11 @@
 // ImportCommand: `kyr import`, from the command line to the options of the plug-in and back.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "host/HostLog.h"
+#include "host/ModelSaver.h"
 #include "host/Output.h"
 
 class KYROptionList;
@@ -16,9 +18,11 @@ class ImportCommand {
     std::string file;
     std::string output;  // empty: named after the file
     std::string rootPackage;
-    std::string modificationTime;  // ISO 8601; empty: the present
-    std::string plugin;            // empty: the one of this installation
-    std::string logFile;           // empty: none
+    std::string modificationTime;                 // ISO 8601; empty: the present
+    std::string plugin;                           // empty: the one of this installation
+    std::string logFile;                          // empty: none
+    std::optional<StoreModelFormat> modelFormat;  // nothing: as the name of the output says
+    bool isAppending = false;
     bool isQuiet = false;
     bool withTiming = false;
     HostLog::Format format = HostLog::Format::text;
@@ -31,10 +35,12 @@ class ImportCommand {
   int run();
 
  private:
+  StoreModelFormat findFormat() const;
+  bool isWrongUsage();
   bool filesClash();
   void fillOptions(KYROptionList& options);
   void setOption(KYROptionList& options, const char* identifier, const std::string& value);
-  void writeSummary(double seconds, const PhaseReport& phases);
+  void writeSummary(double seconds, const std::optional<SavedModelCounts>& counts, const PhaseReport& phases);
 
   Settings settings_;
   PluginLibrary& library_;

@@ -41,12 +41,20 @@ const HostText<0> IMPORT_HELP_EXAMPLES("IMPORT_HELP_EXAMPLES",
                                        "Examples:\n"
                                        "  kyr import shop.xmi                     writes shop.json here\n"
                                        "  kyr import shop.xmi -o models/          writes models/shop.json\n"
+                                       "  kyr import shop.xmi -o shop.sqlite      writes a database\n"
                                        "  kyr import shop.xmi --quiet --log-file shop.log --log-format json");
 const HostText<0> IMPORT_HELP_FILE("IMPORT_HELP_FILE", "The model file: .xmi, .xml, .uml or any other name");
 const HostText<0> IMPORT_HELP_OUTPUT(
     "IMPORT_HELP_OUTPUT",
     "The file to write, or a folder to write it in. Without it: the name of the "
     "model file with the extension .json, in the current folder");
+const HostText<0> IMPORT_HELP_FORMAT("IMPORT_HELP_FORMAT",
+                                     "json; sqlite: a database to query; sql: statements that PostgreSQL "
+                                     "loads. Without it the extension of the "
+                                     "output tells, .sqlite or .sql; anything else is JSON");
+const HostText<0> IMPORT_HELP_APPEND("IMPORT_HELP_APPEND",
+                                     "Add the model to the SQLite database beside those that are there. "
+                                     "One of the same file path is replaced");
 const HostText<0> IMPORT_HELP_ROOT_PACKAGE("IMPORT_HELP_ROOT_PACKAGE",
                                            "Put the whole model into a package of this name, which is marked "
                                            "as one that a destination may leave out");

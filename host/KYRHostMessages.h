@@ -30,6 +30,9 @@ class KYRHostMessages final : public KYRTextLiteralsCollection {
   // Diagrams.
   static const HostMessage<1> NO_DIAGRAMS;
   static const HostMessage<2> NO_SUCH_DIAGRAM;
+  // The output of an import.
+  static const HostMessage<2> NO_FOLDER;
+  static const HostMessage<0> APPEND_NEEDS_SQLITE;
   // What should not happen.
   static const HostMessage<0> OUT_OF_MEMORY;
   static const HostMessage<1> UNEXPECTED_ERROR;

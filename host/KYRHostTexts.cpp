@@ -8,6 +8,9 @@ const HostText<1> VERSION("VERSION", "kyr {0}");
 const HostText<1> NOT_A_TIME("NOT_A_TIME", "'{0}' is no time as of ISO 8601, such as 2026-01-01T00:00:00Z");
 const HostText<2> NO_SUCH_STORE("NO_SUCH_STORE", "'{0}' is no data store; there are {1}");
 
+const HostText<0> NO_NAME("NO_NAME", "the name is empty");
+const HostText<1> UNKNOWN_COMMAND("UNKNOWN_COMMAND", "There is no command '{0}'");
+
 const HostText<2> SUMMARY("SUMMARY", "Wrote '{0}' in {1} s");
 const HostText<7> SUMMARY_COUNTS("SUMMARY_COUNTS",
                                  "packages {0}, classes {1}, interfaces {2}, attributes {3}, "
@@ -54,7 +57,7 @@ const HostText<3> INSPECT_REFERENCES(
 const HostText<1> INSPECT_WITHOUT_ID("INSPECT_WITHOUT_ID",
                                      "  {0} of the unresolved are of elements that have no id");
 const HostText<0> INSPECT_MISSING_IDS("INSPECT_MISSING_IDS", "  first ids that no element bears:");
-const HostText<1> INSPECT_MISSING_ID("INSPECT_MISSING_ID", "    {0}");
+const HostText<1> INSPECT_MISSING_ID("INSPECT_MISSING_ID", "    '{0}'");
 const HostText<1> INSPECT_SKIPPED_TYPES("INSPECT_SKIPPED_TYPES", "Skipped values of xmi:type: {0}");
 const HostText<1> INSPECT_UNKNOWN_TAGS("INSPECT_UNKNOWN_TAGS", "Unknown tags: {0}");
 const HostText<3> INSPECT_COUNT_AT("INSPECT_COUNT_AT", "  {0}  {1}  first at {2}");

@@ -21,6 +21,8 @@ extern const HostText<0> IMPORT_HELP;
 extern const HostText<0> IMPORT_HELP_EXAMPLES;
 extern const HostText<0> IMPORT_HELP_FILE;
 extern const HostText<0> IMPORT_HELP_OUTPUT;
+extern const HostText<0> IMPORT_HELP_FORMAT;
+extern const HostText<0> IMPORT_HELP_APPEND;
 extern const HostText<0> IMPORT_HELP_ROOT_PACKAGE;
 extern const HostText<0> IMPORT_HELP_MODIFICATION_TIME;
 extern const HostText<0> IMPORT_HELP_QUIET;
@@ -49,10 +51,12 @@ extern const HostText<0> DIAGRAM_HELP_OUTPUT;
 /// The version of the command itself.
 extern const HostText<1> VERSION;
 
-/// Why a time is wrong usage.
+// Why something is wrong usage.
 extern const HostText<1> NOT_A_TIME;
 /// Why a data store is wrong usage, with the names of all.
 extern const HostText<2> NO_SUCH_STORE;
+extern const HostText<0> NO_NAME;
+extern const HostText<1> UNKNOWN_COMMAND;
 
 // The closing summary of an import: output file, seconds, and the counts.
 extern const HostText<2> SUMMARY;

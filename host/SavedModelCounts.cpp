@@ -1,49 +1,52 @@
-// Counting by lines: {"id":7,"class":"KYRClass","name":...
+// Counting by element type, on the walk that saving takes.
 #include "host/SavedModelCounts.h"
 
-#include <fstream>
+#include "repository/model/KYRClass.h"
+#include "repository/model/KYRStoreModel.h"
+#include "repository/storage/StoredWalk.h"
 
 namespace {
 
-constexpr std::string_view idStart = R"({"id":)";
-constexpr std::string_view classStart = R"(,"class":")";
-constexpr std::string_view interfaceMark = R"(,"classCategory":9)";
+struct Counting {
+  SavedModelCounts counts;
 
-// The class of the object that begins the line; empty when none does.
-std::string_view classOf(std::string_view line) {
-  if (!line.starts_with(idStart)) return {};
-  const std::size_t idEnd = line.find_first_not_of("0123456789", idStart.size());
-  if (idEnd == std::string_view::npos) return {};
-  line.remove_prefix(idEnd);
-  if (!line.starts_with(classStart)) return {};
-  line.remove_prefix(classStart.size());
-  return line.substr(0, line.find('"'));
-}
+  void enter(const KYRObject& object, const StoredClass& stored) {
+    switch (stored.elementType) {
+      case KYRElementType::designPackage:
+        ++counts.packages;
+        break;
+      case KYRElementType::class_:
+        ++(isInterface(object) ? counts.interfaces : counts.classes);
+        break;
+      case KYRElementType::attribute:
+        ++counts.attributes;
+        break;
+      case KYRElementType::operation:
+        ++counts.operations;
+        break;
+      case KYRElementType::argument:
+        ++counts.arguments;
+        break;
+      case KYRElementType::classDiagram:
+        ++counts.diagrams;
+        break;
+      default:
+        break;
+    }
+  }
+  static bool isInterface(const KYRObject& object) {
+    const auto* const found = dynamic_cast<const KYRClass*>(&object);
+    return found != nullptr && found->classCategory == KYRClassCategoryType::interface_;
+  }
+  void leave() {}
+  void beginList(const StoredField&) {}
+  void endList() {}
+};
 
 }  // namespace
 
-std::optional<SavedModelCounts> SavedModelCounts::read(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  if (!file) return std::nullopt;
-  SavedModelCounts counts;
-  for (std::string line; std::getline(file, line);) counts.countLine(line);
-  if (file.bad()) return std::nullopt;
-  return counts;
-}
-
-void SavedModelCounts::countLine(std::string_view line) {
-  const std::string_view name = classOf(line);
-  if (name == "KYRClass") {
-    ++(line.find(interfaceMark) == std::string_view::npos ? classes : interfaces);
-  } else if (name == "KYRDesignPackage") {
-    ++packages;
-  } else if (name == "KYRAttribute") {
-    ++attributes;
-  } else if (name == "KYROperation") {
-    ++operations;
-  } else if (name == "KYRArgument") {
-    ++arguments;
-  } else if (name == "KYRClassDiagram") {
-    ++diagrams;
-  }
+SavedModelCounts SavedModelCounts::of(const KYRStoreModel& model) {
+  Counting counting;
+  walkStored(model, counting);
+  return counting.counts;
 }

@@ -59,3 +59,7 @@ const Row<2> KYRRepositoryMessages::CONVERSION_LIMIT(147, fatal,
                                                      "The packages of the file '{0}' list the same elements "
                                                      "over and over: the limit of {1} conversion steps is "
                                                      "exceeded");
+const Row<1> KYRRepositoryMessages::NOT_A_MODEL_DATABASE(
+    150, fatal, "No model can be added to '{0}': this database was not made for models");
+const Row<2> KYRRepositoryMessages::UNKNOWN_DATABASE_VERSION(
+    151, fatal, "No model can be added to '{0}': the version {1} of its tables is not known");

@@ -41,4 +41,7 @@ class KYR_EXPORT KYRRepositoryMessages {
   // Imports. The bridge and the option without which it cannot begin; the file and the limit.
   static const Message<2> MISSING_BRIDGE_OPTION;
   static const Message<2> CONVERSION_LIMIT;
+  // Databases of saved models.
+  static const Message<1> NOT_A_MODEL_DATABASE;
+  static const Message<2> UNKNOWN_DATABASE_VERSION;
 };

@@ -2,9 +2,14 @@
 #include "repository/plugin/KYRBridgeDllInterface.h"
 
 #include "repository/storage/StoreModelFile.h"
+#include "repository/storage/StoreModelSaver.h"
 
 KYRBridgeDllInterface::~KYRBridgeDllInterface() = default;
 
 void KYRBridgeDllInterface::saveStoreModel(KYRFile& outputFile, KYRStoreModel& model, KYRLog& /*log*/) {
-  saveStoreModelFile(outputFile, model);
+  if (StoreModelSaver* const saver = StoreModelSaver::getInstalled()) {
+    saver->save(outputFile, model);
+  } else {
+    saveStoreModelFile(outputFile, model);
+  }
 }

@@ -23,7 +23,8 @@ class KYR_EXPORT KYRBridgeDllInterface : public KYTIDllInterface {
   virtual KYRString getMappingSpecificationXmlFile() = 0;
 
  protected:
-  /// Writes the model to the host's output file, whole or not at all. Raises KYRException when the file
+  /// Writes the model to the host's output file, whole or not at all: as JSON, or as the host's
+  /// StoreModelSaver does it. Raises KYRException when the file
   /// cannot be written; what was there before is then still there.
   static void saveStoreModel(KYRFile& outputFile, KYRStoreModel& model, KYRLog& log);
 };

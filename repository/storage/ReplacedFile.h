@@ -19,6 +19,8 @@ class KYR_EXPORT ReplacedFile : public BlockSink {
   /// Removes the new file when it has not taken the target's place.
   ~ReplacedFile() override;
   void write(std::string_view block) override;
+  /// The new file, for what writes to it by name.
+  const std::string& getTemporaryPath() const noexcept { return temporary_; }
   /// Sees to it that the bytes have reached the disk, unless nobody waits for that, then renames.
   void commit();
 

@@ -1,4 +1,4 @@
-// Saving and loading in JSON: the ties between the files, RapidJSON, and what knows models.
+// Saving and loading: the ties between the files, RapidJSON, and what knows models.
 #include "repository/storage/StoreModelFile.h"
 
 #include <rapidjson/error/en.h>
@@ -12,6 +12,8 @@
 #include "repository/storage/JsonStoreModelWriter.h"
 #include "repository/storage/ReplacedFile.h"
 #include "repository/storage/SavedModelBuilder.h"
+#include "repository/storage/SqlStoreModelWriter.h"
+#include "repository/storage/SqliteModelFile.h"
 
 namespace {
 
@@ -58,14 +60,35 @@ class JsonEvents {
                                                  KYRString(rapidjson::GetParseError_En(error)));
 }
 
-}  // namespace
-
-void saveStoreModelFile(const KYRFile& file, const KYRStoreModel& model) {
-  const KYRPhaseTimer timer(KYRPhase::save);
+template <class Writer>
+void saveAsText(const KYRFile& file, const KYRStoreModel& model) {
   ReplacedFile output(file);
-  JsonStoreModelWriter writer(output);
+  Writer writer(output);
   writeStoreModel(model, writer);
   output.commit();
+}
+
+}  // namespace
+
+void saveStoreModelFile(const KYRFile& file, const KYRStoreModel& model, StoreModelFormat format) {
+  const KYRPhaseTimer timer(KYRPhase::save);
+  switch (format) {
+    case StoreModelFormat::json:
+      return saveAsText<JsonStoreModelWriter>(file, model);
+    case StoreModelFormat::sqlite:
+      return saveSqliteModel(file, model);
+    case StoreModelFormat::sql:
+      return saveAsText<SqlStoreModelWriter>(file, model);
+  }
+}
+
+void saveStoreModelFile(const KYRFile& file, const KYRStoreModel& model) {
+  saveStoreModelFile(file, model, StoreModelFormat::json);
+}
+
+void appendStoreModelFile(const KYRFile& file, const KYRStoreModel& model) {
+  const KYRPhaseTimer timer(KYRPhase::save);
+  appendSqliteModel(file, model);
 }
 
 std::unique_ptr<KYRStoreModel> loadStoreModel(const KYRFile& file) {

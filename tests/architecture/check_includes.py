@@ -51,6 +51,7 @@ EXCEPTIONS = [
 THIRD_PARTY = [
     (r"expat(_external)?\.h|iconv\.h", {"foundation/xml"}),
     (r"rapidjson/.*", {"repository", "host"}),
+    (r"sqlite3\.h", {"repository/storage"}),
     (r"CLI/.*", {"host"}),
 ]
 

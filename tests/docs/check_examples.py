@@ -2,7 +2,7 @@
 """Runs the examples of the docs and compares what they print with what the docs show.
 
 An example is a block marked ```console: lines that begin with "$ " are commands, the lines below one are
-what it prints on either output. A line "..." stands for any number of lines. Seconds may differ. The
+what it prints on either output. A command goes on over lines as long as a double quote is open. A line "..." stands for any number of lines. Seconds may differ. The
 commands run with `kyr` on the path, in a folder that holds nothing but the samples.
 
     check_examples.py KYR SOURCE_FOLDER FILE...
@@ -28,6 +28,8 @@ def examples(text):
                 if command is not None:
                     yield command, lines
                 command, lines = line[2:], []
+            elif command is not None and command.count('"') % 2:
+                command += "\n" + line
             else:
                 lines.append(line)
         if command is not None:

@@ -40,6 +40,18 @@ TEST(CommandRequest, EveryOptionOfAnImportArrives) {
   EXPECT_EQ(request.import.logFile, "a.log");
 }
 
+TEST(CommandRequest, TheFormatOfTheModelIsAnOption) {
+  EXPECT_FALSE(read({"import", "a"}).import.modelFormat.has_value());
+  EXPECT_EQ(read({"import", "a", "--format", "json"}).import.modelFormat, StoreModelFormat::json);
+  EXPECT_EQ(read({"import", "a", "--format", "sqlite"}).import.modelFormat, StoreModelFormat::sqlite);
+  EXPECT_TRUE(read({"import", "a", "--append"}).import.isAppending);
+  EXPECT_EQ(read({"import", "a", "--format", "xml"}).kind, Kind::wrongUsage);
+}
+
+TEST(CommandRequest, AWrongCommandIsNamed) {
+  EXPECT_EQ(read({"exprot", "a"}).text, "There is no command 'exprot'");
+}
+
 TEST(CommandRequest, AFileMayBeNamedLikeACommand) {
   EXPECT_EQ(read({"import", "info"}).import.file, "info");
   EXPECT_EQ(read({"inspect", "inspect"}).inspect.file, "inspect");

@@ -2,6 +2,8 @@
 #include "host/FileNames.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include "tests/support/TemporaryFile.h"
 
@@ -24,7 +26,36 @@ TEST(FileNames, TheOutputIsNamedAfterTheInput) {
       {"models/shop.xmi", "/tmp", "/tmp/shop.json"},
       {"models/shop.xmi", "/tmp/", "/tmp/shop.json"},
   };
-  for (const Case& test : cases) EXPECT_EQ(FileNames::outputOf(test.input, test.output), test.expected);
+  for (const Case& test : cases) {
+    EXPECT_EQ(FileNames::outputOf(test.input, test.output, StoreModelFormat::json), test.expected);
+  }
+  EXPECT_EQ(FileNames::outputOf("shop.xmi", "", StoreModelFormat::sqlite), "shop.sqlite");
+}
+
+TEST(FileNames, TheExtensionOfTheOutputTellsTheFormat) {
+  EXPECT_EQ(FileNames::formatOf("shop.sqlite"), StoreModelFormat::sqlite);
+  EXPECT_EQ(FileNames::formatOf("a.b/shop.sqlite3"), StoreModelFormat::sqlite);
+  EXPECT_EQ(FileNames::formatOf("shop.sql"), StoreModelFormat::sql);
+  for (const char* name :
+       {"", "shop", "shop.json", "shop.xyz", "shop.", "sqlite", ".sqlite", "a.sqlite/shop"}) {
+    EXPECT_EQ(FileNames::formatOf(name), StoreModelFormat::json) << name;
+  }
+}
+
+TEST(FileNames, AFolderOfThatNameIsNoFile) {
+  const TemporaryFile place("");
+  const std::string folder = place.path + ".sqlite";
+  ASSERT_EQ(mkdir(folder.c_str(), 0700), 0);
+  EXPECT_EQ(FileNames::formatOf(folder), StoreModelFormat::json);
+  EXPECT_EQ(rmdir(folder.c_str()), 0);
+}
+
+TEST(FileNames, TheFolderThatIsMissingIsNamed) {
+  EXPECT_EQ(FileNames::missingFolderOf("shop.json"), "");
+  EXPECT_EQ(FileNames::missingFolderOf("/tmp/shop.json"), "");
+  EXPECT_EQ(FileNames::missingFolderOf("/shop.json"), "");
+  EXPECT_EQ(FileNames::missingFolderOf("no/such/"), "no/such/");
+  EXPECT_EQ(FileNames::missingFolderOf("no/such/shop.json"), "no/such/");
 }
 
 TEST(FileNames, OneFileUnderTwoNamesIsTheSame) {

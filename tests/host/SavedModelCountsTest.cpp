@@ -1,48 +1,47 @@
-// Counting a saved model without parsing it.
+// Counting a model by the classes of its objects.
 #include "host/SavedModelCounts.h"
 
 #include <gtest/gtest.h>
 
-#include "tests/support/TemporaryFile.h"
+#include <memory>
+
+#include "repository/model/KYRArgument.h"
+#include "repository/model/KYRAttribute.h"
+#include "repository/model/KYRClass.h"
+#include "repository/model/KYRClassDiagram.h"
+#include "repository/model/KYRDesignPackage.h"
+#include "repository/model/KYROperation.h"
+#include "repository/model/KYRStoreModel.h"
 
 namespace {
 
-TEST(SavedModelCounts, CountsObjectsByTheStartsOfTheirLines) {
-  const TemporaryFile file(
-      "{\"format\":\"kyr-store-model\",\"model\":\n"
-      "{\"id\":1,\"class\":\"KYRStoreModel\",\"designPackages\":[\n"
-      "{\"id\":2,\"class\":\"KYRDesignPackage\",\"elements\":[\n"
-      "{\"id\":13,\"class\":\"KYRClass\",\"name\":\"A\",\"attributes\":[\n"
-      "{\"id\":14,\"class\":\"KYRAttribute\"}],\"operations\":[\n"
-      "{\"id\":15,\"class\":\"KYROperation\",\"arguments\":[\n"
-      "{\"id\":16,\"class\":\"KYRArgument\"},\n"
-      "{\"id\":17,\"class\":\"KYRArgument\"}]}]},\n"
-      "{\"id\":18,\"class\":\"KYRClass\",\"name\":\"B\",\"classCategory\":9},\n"
-      "{\"id\":19,\"class\":\"KYRClassType\"}],\"diagrams\":[\n"
-      "{\"id\":20,\"class\":\"KYRClassDiagram\",\"name\":\"D\"}]}]}}\n");
-  const auto counts = SavedModelCounts::read(file.path);
-  ASSERT_TRUE(counts.has_value());
-  EXPECT_EQ(counts->packages, 1U);
-  EXPECT_EQ(counts->classes, 1U);
-  EXPECT_EQ(counts->interfaces, 1U);
-  EXPECT_EQ(counts->attributes, 1U);
-  EXPECT_EQ(counts->operations, 1U);
-  EXPECT_EQ(counts->arguments, 2U);
-  EXPECT_EQ(counts->diagrams, 1U);
+TEST(SavedModelCounts, CountsTheObjectsThatAreSaved) {
+  KYRStoreModel model;
+  auto* package = new KYRDesignPackage();
+  model.addDesignPackage(package);
+  auto* plain = new KYRClass();
+  package->addNamespaceElementUniqueName(plain, '/');
+  auto* other = new KYRClass();
+  other->classCategory = KYRClassCategoryType::interface_;
+  package->addNamespaceElementUniqueName(other, '/');
+  plain->addFeatureUniqueName(new KYRAttribute(), '/');
+  auto* operation = new KYROperation();
+  other->addOperation(operation);
+  operation->addArgument(new KYRArgument());
+  operation->addArgument(new KYRArgument());
+  package->addDiagram(new KYRClassDiagram());
+  const SavedModelCounts counts = SavedModelCounts::of(model);
+  EXPECT_EQ(counts.packages, 1U);
+  EXPECT_EQ(counts.classes, 1U);
+  EXPECT_EQ(counts.interfaces, 1U);
+  EXPECT_EQ(counts.attributes, 1U);
+  EXPECT_EQ(counts.operations, 1U);
+  EXPECT_EQ(counts.arguments, 2U);
+  EXPECT_EQ(counts.diagrams, 1U);
 }
 
-TEST(SavedModelCounts, IsNotMisledByTexts) {
-  const TemporaryFile file(
-      "{\"id\":1,\"class\":\"KYRClass\",\"name\":\"x,\\\"classCategory\\\":9,\\n{\\\"id\\\":2,"
-      "\\\"class\\\":\\\"KYRClass\\\"\"}");
-  const auto counts = SavedModelCounts::read(file.path);
-  ASSERT_TRUE(counts.has_value());
-  EXPECT_EQ(counts->classes, 1U);
-  EXPECT_EQ(counts->interfaces, 0U);
-}
-
-TEST(SavedModelCounts, IsEmptyForAFileThatIsNotThere) {
-  EXPECT_FALSE(SavedModelCounts::read("/tmp/kyr-no-such-file").has_value());
+TEST(SavedModelCounts, AnEmptyModelHasNothingToCount) {
+  EXPECT_EQ(SavedModelCounts::of(KYRStoreModel()).packages, 0U);
 }
 
 }  // namespace

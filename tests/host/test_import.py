@@ -87,7 +87,9 @@ class Output(CommandTest):
     def test_a_folder_that_is_not_there_is_an_error_that_names_it(self):
         for output in ("missing/shop.json", "missing/"):
             with self.subTest(output=output):
-                self.assertFails(self.kyr("import", SMALL, "-o", output), FAILED, output)
+                self.assertFails(self.kyr("import", SMALL, "-o", output), FAILED,
+                                 f"[KYRHOST_F0030] The model cannot be written to '{output}': "
+                                 "there is no folder 'missing/'")
         self.assertEqual(self.names(), [])
 
     def test_a_full_disk_leaves_nothing(self):

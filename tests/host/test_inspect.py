@@ -44,7 +44,7 @@ Objects:      13
   1  UMLModel
 References:   27 resolved, 1 unresolved, 0 between classes that do not fit
   first ids that no element bears:
-    nowhere
+    'nowhere'
 Skipped values of xmi:type: 1
   2  uml:StateMachine  first at line 20, column 7
 Unknown tags: 2
@@ -116,7 +116,7 @@ class Report(CommandTest):
         text = self.kyr("inspect", "shop.xmi").output
         self.assertEqual(text.count("oddity"), 20)
         self.assertIn("  and 10 more, which '--json' lists\n", text)
-        self.assertIn("    " + "x" * 120 + "...\n", text)
+        self.assertIn("    '" + "x" * 120 + "...'\n", text)
         report = json.loads(self.kyr("inspect", "shop.xmi", "--json").output)
         self.assertEqual(len(report["unknownTags"]), 30)
         self.assertEqual(report["references"]["firstMissingIds"], [long_id])

@@ -13,12 +13,14 @@ class WrongUsage(CommandTest):
     def test_each_kind_of_wrong_words_ends_with_2_and_says_where_help_is(self):
         cases = [
             ([], "'kyr --help'"),
-            (["export"], "'kyr --help'"),
+            (["export"], "There is no command 'export'. 'kyr --help'"),
             (["--json"], "'kyr --help'"),
             (["import"], "'kyr import --help'"),
             (["import", "a.xmi", "b.xmi"], "'kyr import --help'"),
             (["import", "a.xmi", "--loud"], "'kyr import --help'"),
             (["import", "a.xmi", "-o"], "'kyr import --help'"),
+            (["import", "a.xmi", "-o", ""], "the name is empty. 'kyr import --help'"),
+            (["import", "a.xmi", "--format", "xml"], "'kyr import --help'"),
             (["import", "a.xmi", "-o", "b", "-o", "c"], "'kyr import --help'"),
             (["import", "a.xmi", "--log-format", "xml"], "'kyr import --help'"),
             (["import", "a.xmi", "--modification-time", "yesterday"], "'kyr import --help'"),
@@ -84,7 +86,7 @@ class Help(CommandTest):
 
     def test_help_names_every_option(self):
         options = {
-            "import": ["--output", "--root-package", "--modification-time", "--encoding", "--quiet", "--log-format",
+            "import": ["--output", "--format", "--append", "--root-package", "--modification-time", "--encoding", "--quiet", "--log-format",
                        "--log-file", "--plugin"],
             "info": ["--json", "--plugin", "--types", "STORE"],
             "inspect": ["--json", "--objects", "--encoding"],

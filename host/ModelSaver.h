@@ -1,0 +1,28 @@
+// ModelSaver: the format that the user wants a model in, put in the way of the plug-in's saving.
+//
+// The plug-in makes the model and hands it over to be saved; the host never has it otherwise. So this is
+// where it is counted, too.
+#pragma once
+
+#include <optional>
+
+#include "host/SavedModelCounts.h"
+#include "repository/storage/StoreModelFile.h"
+#include "repository/storage/StoreModelSaver.h"
+
+class ModelSaver final : public StoreModelSaver {
+ public:
+  /// Saves the models of this process as long as it lives: each in a file of its own, or each added to
+  /// what the SQLite file holds.
+  ModelSaver(StoreModelFormat format, bool isAppending);
+  ~ModelSaver() override;
+
+  void save(const KYRFile& file, const KYRStoreModel& model) override;
+  /// Nothing when no model has been saved yet.
+  const std::optional<SavedModelCounts>& getCounts() const noexcept { return counts_; }
+
+ private:
+  StoreModelFormat format_;
+  bool isAppending_;
+  std::optional<SavedModelCounts> counts_;
+};

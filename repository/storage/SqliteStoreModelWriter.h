@@ -1,0 +1,41 @@
+// SqliteStoreModelWriter: the SQLite format of saved models; docs/sqlite.md describes it.
+#pragma once
+
+#include <vector>
+
+#include "repository/storage/SqlRowWriter.h"
+#include "repository/storage/SqliteDatabase.h"
+
+/// Writes one model into the database, which holds none yet or some of this format. A model of the same
+/// origin path that is there is replaced. Whoever makes the writer begins the transaction before the
+/// model and commits it afterwards. All operations raise a KYRException that names the file.
+class KYR_EXPORT SqliteStoreModelWriter : public SqlRowWriter {
+ public:
+  /// What `PRAGMA application_id` tells of the file: "KYRM" in ASCII.
+  static constexpr int applicationId = 0x4B59524D;
+
+  /// `shownPath` is what messages call the file. The database must outlive the writer.
+  SqliteStoreModelWriter(SqliteDatabase& database, const KYRString& shownPath);
+  ~SqliteStoreModelWriter() override;
+
+  void beginDocument(const KYRStoreModel& model) override;
+  void endDocument() override;
+
+ protected:
+  void beginRow(const SqlTable& table) override;
+  void putNumber(const SqlTable& table, std::size_t column, std::int64_t value) override;
+  void putText(const SqlTable& table, std::size_t column, std::string_view value, bool isPassing) override;
+  void endRow(const SqlTable& table) override;
+
+ private:
+  void createSchema();
+  void refuseOthers() const;
+  void removeFormer(const KYRStoreModel& model);
+  void fillSearch();
+
+  SqliteDatabase& database_;
+  KYRString shownPath_;
+  bool isNew_ = false;
+  std::int64_t firstId_ = 1;
+  std::vector<SqliteStatement> inserts_;  // by the index of the table
+};

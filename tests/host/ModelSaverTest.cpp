@@ -1,0 +1,51 @@
+// The host's part in saving: which format, and for how long.
+#include "host/ModelSaver.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sstream>
+
+#include "tests/support/TemporaryFile.h"
+
+namespace {
+
+std::string startOf(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  std::stringstream text;
+  text << file.rdbuf();
+  return text.str().substr(0, 6);
+}
+
+TEST(ModelSaver, SavesInItsFormatAndCounts) {
+  const TemporaryFile file("");
+  const KYRStoreModel model;
+  const KYRFile target{KYRString(file.path)};
+  ModelSaver saver(StoreModelFormat::sqlite, false);
+  EXPECT_FALSE(saver.getCounts().has_value());
+  StoreModelSaver::getInstalled()->save(target, model);
+  EXPECT_EQ(startOf(file.path), "SQLite");
+  EXPECT_TRUE(saver.getCounts().has_value());
+}
+
+TEST(ModelSaver, AppendsWhereThatIsWanted) {
+  const TemporaryFile file("");
+  const KYRFile target{KYRString(file.path)};
+  ModelSaver saver(StoreModelFormat::sqlite, true);
+  saver.save(target, KYRStoreModel());
+  const std::string first = startOf(file.path);
+  saver.save(target, KYRStoreModel());
+  EXPECT_EQ(first, "SQLite");
+  EXPECT_EQ(startOf(file.path), "SQLite");
+}
+
+TEST(ModelSaver, IsInstalledAsLongAsItLives) {
+  EXPECT_EQ(StoreModelSaver::getInstalled(), nullptr);
+  {
+    ModelSaver saver(StoreModelFormat::json, false);
+    EXPECT_EQ(StoreModelSaver::getInstalled(), &saver);
+  }
+  EXPECT_EQ(StoreModelSaver::getInstalled(), nullptr);
+}
+
+}  // namespace

@@ -1,0 +1,153 @@
+#include "repository/storage/SqliteModelFile.h"
+
+#include <gmock/gmock.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <thread>
+#include <vector>
+
+#include "repository/model/KYRMetadataOrigin.h"
+#include "repository/storage/SqlSchema.h"
+#include "tests/repository/FullModel.h"
+#include "tests/repository/ModelFolder.h"
+#include "tests/repository/SqliteFile.h"
+
+namespace {
+
+class SqliteModelFile : public ModelFolder {
+ protected:
+  std::string ask(const std::string& query) const { return SqliteFile(path("m.sqlite")).ask(query); }
+  void append() const { appendStoreModelFile(file("m.sqlite"), *makeFullModel()); }
+};
+
+// A limit on file sizes stands for a full disk.
+class LimitedFiles {
+ public:
+  explicit LimitedFiles(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+    getrlimit(RLIMIT_FSIZE, &before_);
+    rlimit limited = before_;
+    limited.rlim_cur = bytes;
+    setrlimit(RLIMIT_FSIZE, &limited);
+  }
+  LimitedFiles(const LimitedFiles&) = delete;
+  LimitedFiles& operator=(const LimitedFiles&) = delete;
+  ~LimitedFiles() {
+    setrlimit(RLIMIT_FSIZE, &before_);
+    std::signal(SIGXFSZ, handler_);
+  }
+
+ private:
+  rlimit before_ = {};
+  void (*handler_)(int);
+};
+
+TEST_F(SqliteModelFile, AFullDiskLeavesWhatWasThere) {
+  write("old", "m.sqlite");
+  {
+    const LimitedFiles limit(20000);
+    EXPECT_THAT(failureOf([this] {
+                  saveStoreModelFile(file("m.sqlite"), *makeFullModel(), StoreModelFormat::sqlite);
+                }),
+                testing::HasSubstr("The model cannot be saved to '" + path("m.sqlite") + "': "));
+  }
+  EXPECT_EQ(content("m.sqlite"), "old");
+  EXPECT_EQ(filesInFolder(), 1U);
+}
+
+TEST_F(SqliteModelFile, AnAppendThatFailsLeavesNothingWhereNothingWas) {
+  {
+    const LimitedFiles limit(20000);
+    EXPECT_THAT(failureOf([this] { append(); }), testing::HasSubstr("The model cannot be saved to"));
+  }
+  EXPECT_LE(filesInFolder(), 1U);  // an empty database at most, which the next append fills
+  append();
+  EXPECT_EQ(ask("SELECT count(*) FROM models"), "1");
+  const std::string before = content("m.sqlite");
+  auto other = makeFullModel();
+  other->metadataOrigin->filePath = "other";
+  const std::string longText(before.size(), 'x');
+  other->description = KYRString(std::string_view(longText));
+  {
+    const LimitedFiles limit(static_cast<rlim_t>(before.size()));
+    EXPECT_THAT(failureOf([&] { appendStoreModelFile(file("m.sqlite"), *other); }),
+                testing::HasSubstr("The model cannot be saved to"));
+  }
+  EXPECT_EQ(ask("SELECT count(*) FROM models; PRAGMA integrity_check"), "1\nok");
+  EXPECT_EQ(filesInFolder(), 1U);
+}
+
+TEST_F(SqliteModelFile, OnlyRegularFilesAreTargets) {
+  EXPECT_EQ(failureOf([] { appendStoreModelFile(KYRFile("/dev/null"), KYRStoreModel()); }),
+            "[KYRSTD_F0121] The model cannot be saved to '/dev/null': it is not a regular file");
+  EXPECT_THAT(failureOf([this] { appendStoreModelFile(file("no/m.sqlite"), KYRStoreModel()); }),
+              testing::HasSubstr("unable to open database file"));
+}
+
+TEST_F(SqliteModelFile, ManyProcessesAddToOneFile) {
+  constexpr int processes = 6;
+  std::vector<pid_t> children;
+  for (int i = 0; i < processes; ++i) {
+    const pid_t child = fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+      const auto model = makeFullModel();
+      model->metadataOrigin->filePath = KYRString(i);
+      _exit(failureOf([&] { appendStoreModelFile(file("m.sqlite"), *model); }) == "nothing raised" ? 0 : 1);
+    }
+    children.push_back(child);
+  }
+  for (const pid_t child : children) {
+    int status = 0;
+    waitpid(child, &status, 0);
+    EXPECT_EQ(status, 0);
+  }
+  EXPECT_EQ(ask("SELECT group_concat(origin_path, '') FROM (SELECT * FROM models ORDER BY origin_path)"),
+            "012345");
+  EXPECT_EQ(ask("PRAGMA integrity_check; PRAGMA foreign_key_check"), "ok");
+  EXPECT_EQ(ask("SELECT count(*) FROM objects"), ask("SELECT max(last_id) FROM models"));
+  EXPECT_EQ(filesInFolder(), 1U);
+}
+
+// Another process replaced the file while this one waited for the lock of the old one.
+TEST_F(SqliteModelFile, AReplacedFileIsOpenedAnew) {
+  append();
+  auto old = std::make_unique<SqliteFile>(path("m.sqlite"));
+  old->ask("BEGIN IMMEDIATE");
+  auto model = makeFullModel();
+  model->metadataOrigin->filePath = "late";
+  std::thread appending([&] { appendStoreModelFile(file("m.sqlite"), *model); });
+  usleep(100000);
+  std::filesystem::remove(path("m.sqlite"));
+  old->ask("COMMIT");
+  appending.join();
+  EXPECT_EQ(ask("SELECT origin_path FROM models"), "late");
+}
+
+// The signal comes while the lock is waited for, and ends the process without a trace in the file.
+TEST_F(SqliteModelFile, ASignalEndsTheWaitAndLeavesTheFileWhole) {
+  append();
+  const std::string before = content("m.sqlite");
+  SqliteFile other(path("m.sqlite"));
+  other.ask("BEGIN IMMEDIATE");
+  const pid_t child = fork();
+  ASSERT_GE(child, 0);
+  if (child == 0) {
+    std::signal(SIGTERM, SIG_DFL);
+    failureOf([this] { append(); });
+    _exit(0);
+  }
+  usleep(200000);
+  kill(child, SIGTERM);
+  int status = 0;
+  waitpid(child, &status, 0);
+  EXPECT_TRUE(WIFSIGNALED(status));
+  EXPECT_EQ(WTERMSIG(status), SIGTERM);
+  other.ask("ROLLBACK");
+  EXPECT_EQ(content("m.sqlite"), before);
+  EXPECT_EQ(filesInFolder(), 1U);
+}
+
+}  // namespace
