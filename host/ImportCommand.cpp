@@ -8,6 +8,7 @@
 
 #include "foundation/KYRFile.h"
 #include "foundation/KYROption.h"
+#include "foundation/xml/XmlRewriting.h"
 #include "host/ExitCode.h"
 #include "host/FileNames.h"
 #include "host/KYRHostMessages.h"
@@ -53,12 +54,23 @@ int ImportCommand::run() {
   library_.load(settings_.plugin);
   KYROptionList options;
   fillOptions(options);
+  importFile(options);
+  if (!settings_.isQuiet) writeSummary(std::chrono::duration<double>(Clock::now() - start).count());
+  return ExitCode::done;
+}
+
+void ImportCommand::importFile(KYROptionList& options) {
+  const KYRFile input{KYRString(settings_.file)};
+  std::optional<XmlRewriting> rewriting;
+  if (settings_.normalize.isWanted()) {
+    normalizer_.emplace(std::string(input.getFileName().view()), settings_.normalize.getExtent());
+    rewriting.emplace(input, *normalizer_);
+  }
   KYRFile target{KYRString(target_)};
   if (!library_.getPlugin().run(originId, target, options, log_)) {
     KYRHostMessages::PLUGIN_REFUSED.throwException();
   }
-  if (!settings_.isQuiet) writeSummary(std::chrono::duration<double>(Clock::now() - start).count());
-  return ExitCode::done;
+  if (normalizer_) NormalizeSummary::logNotes(log_, normalizer_->getReport());
 }
 
 bool ImportCommand::filesClash() {
@@ -105,13 +117,16 @@ void ImportCommand::writeSummary(double seconds) {
     json.key("output").text(target_);
     json.key("seconds").real(seconds);
     if (counts.has_value()) countsToJson(json, *counts);
+    if (normalizer_) NormalizeSummary::toJson(json.key("normalized"), normalizer_->getReport());
     json.endObject();
     output_.write(json.endLine());
     return;
   }
   TextOut out(output_);
   out.line(KYRHostTexts::SUMMARY, target_, inSeconds(seconds));
-  if (!counts.has_value()) return;
-  out.line(KYRHostTexts::SUMMARY_COUNTS, counts->packages, counts->classes, counts->interfaces,
-           counts->attributes, counts->operations, counts->arguments);
+  if (counts.has_value()) {
+    out.line(KYRHostTexts::SUMMARY_COUNTS, counts->packages, counts->classes, counts->interfaces,
+             counts->attributes, counts->operations, counts->arguments);
+  }
+  if (normalizer_) NormalizeSummary::toText(out, normalizer_->getReport());
 }

@@ -1,9 +1,11 @@
 // ImportCommand: `kyr import`, from the command line to the options of the plug-in and back.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "host/HostLog.h"
+#include "host/NormalizeSummary.h"
 #include "host/Output.h"
 
 class KYROptionList;
@@ -18,6 +20,7 @@ class ImportCommand {
     std::string modificationTime;  // ISO 8601; empty: the present
     std::string plugin;            // empty: the one of this installation
     std::string logFile;           // empty: none
+    NormalizeChoice normalize;
     bool isQuiet = false;
     HostLog::Format format = HostLog::Format::text;
   };
@@ -31,6 +34,7 @@ class ImportCommand {
  private:
   bool filesClash();
   void fillOptions(KYROptionList& options);
+  void importFile(KYROptionList& options);
   void setOption(KYROptionList& options, const char* identifier, const std::string& value);
   void writeSummary(double seconds);
 
@@ -39,4 +43,5 @@ class ImportCommand {
   Output& output_;
   HostLog& log_;
   std::string target_;
+  std::optional<Normalizer> normalizer_;  // when the step was asked for
 };

@@ -51,6 +51,17 @@ const HostMessage<1> KYRHostMessages::NO_DIAGRAMS(16, fatal, "The model in '{0}'
 const HostMessage<2> KYRHostMessages::NO_SUCH_DIAGRAM(17, fatal,
                                                       "The model in '{0}' has no class diagram named '{1}'");
 
+const HostMessage<0> KYRHostMessages::TOOL_NAME_FOUND(
+    31, warning,
+    "The tool that wrote the file is named in an unusual way; it was understood, so the tool's own data are "
+    "read "
+    "as those of that tool");
+const HostMessage<1> KYRHostMessages::ATTRIBUTE_RINGS(
+    32, warning, "Elements whose attributes hide each other in any order, and stay as they are: {0}");
+const HostMessage<1> KYRHostMessages::NORMALIZED_IS_INPUT(
+    33, fatal,
+    "The rewritten file would be written over the file that it comes from, '{0}'; '-o' names another one");
+
 KYRHostMessages::KYRHostMessages() : KYRTextLiteralsCollection("kyr", HostLiterals::catalogueName) {
   for (KYRTextLiteral* literal : entered()) add(literal);
   init();

@@ -35,11 +35,26 @@ class XmlBlockArray {
     ++size_;
     return *added;
   }
-  std::size_t getMemorySize() const noexcept { return blocks_.size() * blockSize * sizeof(T); }
+  /// Takes on the entries of `other`, which must outlive this array and grow no more, without copying
+  /// them. Further entries begin a block of their own, so their indexes start at the next multiple of
+  /// `blockSize`. To be called on an empty array.
+  void shareBlocks(const XmlBlockArray& other) {
+    blocks_.reserve(other.blocks_.size());
+    for (const Block& block : other.blocks_) blocks_.push_back(Block(block.get(), Release{false}));
+    size_ = blocks_.size() * blockSize;
+    sharedCount_ = blocks_.size();
+  }
+  /// Bytes of the blocks that are its own.
+  std::size_t getMemorySize() const noexcept {
+    return (blocks_.size() - sharedCount_) * blockSize * sizeof(T);
+  }
 
  private:
   struct Release {
-    void operator()(T* block) const noexcept { ::operator delete(block); }
+    bool owns = true;
+    void operator()(T* block) const noexcept {
+      if (owns) ::operator delete(block);
+    }
   };
   using Block = std::unique_ptr<T, Release>;
 
@@ -55,4 +70,5 @@ class XmlBlockArray {
 
   std::vector<Block> blocks_;
   std::size_t size_ = 0;
+  std::size_t sharedCount_ = 0;
 };
