@@ -5,4 +5,8 @@
 
 void DocumentReading::parse(KYRDOM& dom, const KYRFile& file) { root_.reset(dom.parseFile(file)); }
 
+void DocumentReading::parseAsWritten(KYRDOM& dom, const KYRFile& file) {
+  root_.reset(dom.parseFileAsWritten(file));
+}
+
 const XmlDocument& DocumentReading::document() const noexcept { return XmlTree::of(*root_).getDocument(); }

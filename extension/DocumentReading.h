@@ -12,6 +12,8 @@ class DocumentReading {
   /// Reads the file, or shares the document when it was read before and has not changed. Raises as
   /// KYRDOM::parseFile.
   void parse(KYRDOM& dom, const KYRFile& file);
+  /// The same for another file than the input, which no host rewrites (KYRDOM::parseFileAsWritten).
+  void parseAsWritten(KYRDOM& dom, const KYRFile& file);
   /// False when the file held no root element, or nothing was parsed.
   explicit operator bool() const noexcept { return root_ != nullptr; }
   const XmlDocument& document() const noexcept;

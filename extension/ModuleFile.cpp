@@ -26,7 +26,7 @@ bool ModuleFile::open(const KYRString& filePart) {
     if (candidate.exists()) {
       moduleLookupPending = false;
       KBI_UML2XMI::UML2_S_PARSING_FILE.log(*log, filePart);
-      module.parse(dom, candidate);
+      module.parseAsWritten(dom, candidate);
     } else if (filePart.find(":", 0) < 0) {
       moduleLookupPending = false;
       KBI_UML2XMI::UML2_I_COULD_NOT_PARSE_FILE.log(*log, candidate.getPath());

@@ -13,9 +13,18 @@ KYRDOM::KYRDOM(KYRLog*) {}
 
 KYRDOM::~KYRDOM() = default;
 
-KYRDOMElement* KYRDOM::parseFile(const KYRFile& file) {
-  std::shared_ptr<const XmlDocument> document = readXmlFile(file, nullptr, false);
+namespace {
+
+KYRDOMElement* makeRoot(std::shared_ptr<const XmlDocument> document) {
   return document->isEmpty() ? nullptr : XmlTree::makeRoot(std::move(document));
+}
+
+}  // namespace
+
+KYRDOMElement* KYRDOM::parseFile(const KYRFile& file) { return makeRoot(readXmlFile(file, nullptr, false)); }
+
+KYRDOMElement* KYRDOM::parseFileAsWritten(const KYRFile& file) {
+  return makeRoot(readXmlFile(file, nullptr, false, XmlReading::asWritten));
 }
 
 namespace {

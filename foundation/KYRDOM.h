@@ -21,6 +21,10 @@ class KYR_EXPORT KYRDOM {
   /// When a document of the same unchanged file (device, inode, size and time of change) still
   /// lives, the tree stands on that one and nothing is read. Raises as KYRSAX2Parser::parseFile.
   virtual KYRDOMElement* parseFile(const KYRFile& file);
+  /// The same for a file that is not read as the input of an import, such as a module that the input
+  /// refers to: what a host has installed to rewrite the input (XmlRewriting) does not touch it, be it
+  /// the very same file.
+  KYRDOMElement* parseFileAsWritten(const KYRFile& file);
 };
 
 /// An element of a tree. Deleting the root frees the tree and lets go of its share of the document;

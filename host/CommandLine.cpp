@@ -48,6 +48,8 @@ int perform(const CommandRequest& request, Tools& tools) {
     case Kind::diagram:
       DiagramCommand(request.diagram, tools.output).run();
       return ExitCode::done;
+    case Kind::normalize:
+      return NormalizeCommand(request.normalize, tools.output, tools.log).run();
     case Kind::answer:
       tools.output.write(request.text);
       return ExitCode::done;

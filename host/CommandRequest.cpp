@@ -52,6 +52,8 @@ class Definition {
   void defineInfo();
   void defineInspect();
   void defineDiagram();
+  void defineNormalize();
+  static void addNormalize(CLI::App& command, NormalizeChoice& choice);
   static CLI::Option& addPlugin(CLI::App& command, std::string& path);
   void addEncoding(CLI::App& command);
 
@@ -71,6 +73,7 @@ Definition::Definition(CommandRequest& request)
   defineInfo();
   defineInspect();
   defineDiagram();
+  defineNormalize();
 }
 
 CLI::App& Definition::addCommand(const char* name, const HostText<0>& help, const HostText<0>& examples) {
@@ -95,6 +98,7 @@ void Definition::defineImport() {
   command.add_option("--modification-time", settings.modificationTime, textOf(IMPORT_HELP_MODIFICATION_TIME))
       ->type_name("TIME")
       ->check(CLI::Validator(checkTime, ""));
+  addNormalize(command, settings.normalize);
   addEncoding(command);
   command.add_flag("-q,--quiet", settings.isQuiet, textOf(IMPORT_HELP_QUIET));
   command.add_flag("--timing", settings.withTiming, textOf(IMPORT_HELP_TIMING));
@@ -142,6 +146,7 @@ void Definition::defineInspect() {
   command.add_option("FILE", settings.file, textOf(INSPECT_HELP_FILE))->required()->type_name("");
   command.add_flag("--json", settings.isJson, textOf(INSPECT_HELP_JSON));
   command.add_flag("--objects", settings.listsObjects, textOf(INSPECT_HELP_OBJECTS));
+  addNormalize(command, settings.normalize);
   addEncoding(command);
 }
 
@@ -152,6 +157,25 @@ void Definition::defineDiagram() {
   command.add_option("FILE", settings.file, textOf(DIAGRAM_HELP_FILE))->required()->type_name("");
   command.add_option("--name", settings.name, textOf(DIAGRAM_HELP_NAME))->type_name("NAME");
   command.add_option("-o,--output", settings.folder, textOf(DIAGRAM_HELP_OUTPUT))->type_name("FOLDER");
+}
+
+void Definition::defineNormalize() {
+  using namespace KYRHostTexts;
+  CLI::App& command = addCommand("normalize", NORMALIZE_HELP, NORMALIZE_HELP_EXAMPLES);
+  NormalizeCommand::Settings& settings = request_.normalize;
+  command.add_option("FILE", settings.file, textOf(NORMALIZE_HELP_FILE))->required()->type_name("");
+  command.add_option("-o,--output", settings.output, textOf(NORMALIZE_HELP_OUTPUT))
+      ->required()
+      ->type_name("PATH");
+  command.add_flag("--all", settings.isAll, textOf(NORMALIZE_HELP_ALL));
+  addEncoding(command);
+}
+
+// A flag, so that a file name behind it is not taken for its value.
+void Definition::addNormalize(CLI::App& command, NormalizeChoice& choice) {
+  command.add_flag("--normalize{usual}", choice.value, textOf(KYRHostTexts::HELP_NORMALIZE))
+      ->type_name("[=all]")
+      ->check(CLI::IsMember({NormalizeChoice::usual, NormalizeChoice::all}).description(""));
 }
 
 CLI::Option& Definition::addPlugin(CLI::App& command, std::string& path) {
@@ -181,10 +205,11 @@ void Definition::read(int argumentCount, const char* const* arguments) {
     return;
   }
   using Kind = CommandRequest::Kind;
-  request_.kind = app_.got_subcommand("import")    ? Kind::import
-                  : app_.got_subcommand("info")    ? Kind::info
-                  : app_.got_subcommand("diagram") ? Kind::diagram
-                                                   : Kind::inspect;
+  request_.kind = app_.got_subcommand("import")      ? Kind::import
+                  : app_.got_subcommand("info")      ? Kind::info
+                  : app_.got_subcommand("diagram")   ? Kind::diagram
+                  : app_.got_subcommand("normalize") ? Kind::normalize
+                                                     : Kind::inspect;
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include "host/ImportCommand.h"
 #include "host/InfoCommand.h"
 #include "host/InspectCommand.h"
+#include "host/NormalizeCommand.h"
 
 struct CommandRequest {
   enum class Kind {
@@ -14,6 +15,7 @@ struct CommandRequest {
     info,
     inspect,
     diagram,
+    normalize,
     answer,      // help or version: `text` is to be printed
     wrongUsage,  // `text` says why, and `command` which words were understood
   };
@@ -23,6 +25,7 @@ struct CommandRequest {
   InfoCommand::Settings info;
   InspectCommand::Settings inspect;
   DiagramCommand::Settings diagram;
+  NormalizeCommand::Settings normalize;
   std::string encoding;  // empty: as each file says
   std::string text;
   std::string command;  // "kyr", "kyr import"

@@ -7,6 +7,7 @@
 
 #include "foundation/KYRFile.h"
 #include "foundation/KYROption.h"
+#include "foundation/xml/XmlRewriting.h"
 #include "host/ExitCode.h"
 #include "host/FileNames.h"
 #include "host/KYRHostMessages.h"
@@ -58,16 +59,27 @@ int ImportCommand::run() {
   library_.load(settings_.plugin);
   KYROptionList options;
   fillOptions(options);
-  KYRFile target{KYRString(target_)};
   const PhaseReport phases(settings_.withTiming);
   const ModelSaver saver(format, settings_.isAppending);
-  if (!library_.getPlugin().run(originId, target, options, log_)) {
-    KYRHostMessages::PLUGIN_REFUSED.throwException();
-  }
+  importFile(options);
   if (!settings_.isQuiet) {
     writeSummary(std::chrono::duration<double>(Clock::now() - start).count(), saver.getCounts(), phases);
   }
   return ExitCode::done;
+}
+
+void ImportCommand::importFile(KYROptionList& options) {
+  const KYRFile input{KYRString(settings_.file)};
+  std::optional<XmlRewriting> rewriting;
+  if (settings_.normalize.isWanted()) {
+    normalizer_.emplace(std::string(input.getFileName().view()), settings_.normalize.getExtent());
+    rewriting.emplace(input, *normalizer_);
+  }
+  KYRFile target{KYRString(target_)};
+  if (!library_.getPlugin().run(originId, target, options, log_)) {
+    KYRHostMessages::PLUGIN_REFUSED.throwException();
+  }
+  if (normalizer_) NormalizeSummary::logNotes(log_, normalizer_->getReport());
 }
 
 StoreModelFormat ImportCommand::findFormat() const {
@@ -127,6 +139,7 @@ void ImportCommand::writeSummary(double seconds, const std::optional<SavedModelC
     json.key("output").text(target_);
     json.key("seconds").real(seconds);
     if (counts.has_value()) countsToJson(json, *counts);
+    if (normalizer_) NormalizeSummary::toJson(json.key("normalized"), normalizer_->getReport());
     phases.write(json);
     json.endObject();
     output_.write(json.endLine());
@@ -138,5 +151,6 @@ void ImportCommand::writeSummary(double seconds, const std::optional<SavedModelC
     out.line(KYRHostTexts::SUMMARY_COUNTS, counts->packages, counts->classes, counts->interfaces,
              counts->attributes, counts->operations, counts->arguments, counts->diagrams);
   }
+  if (normalizer_) NormalizeSummary::toText(out, normalizer_->getReport());
   phases.write(out);
 }

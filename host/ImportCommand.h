@@ -6,6 +6,7 @@
 
 #include "host/HostLog.h"
 #include "host/ModelSaver.h"
+#include "host/NormalizeSummary.h"
 #include "host/Output.h"
 
 class KYROptionList;
@@ -23,6 +24,7 @@ class ImportCommand {
     std::string logFile;                          // empty: none
     std::optional<StoreModelFormat> modelFormat;  // nothing: as the name of the output says
     bool isAppending = false;
+    NormalizeChoice normalize;
     bool isQuiet = false;
     bool withTiming = false;
     HostLog::Format format = HostLog::Format::text;
@@ -39,6 +41,7 @@ class ImportCommand {
   bool isWrongUsage();
   bool filesClash();
   void fillOptions(KYROptionList& options);
+  void importFile(KYROptionList& options);
   void setOption(KYROptionList& options, const char* identifier, const std::string& value);
   void writeSummary(double seconds, const std::optional<SavedModelCounts>& counts, const PhaseReport& phases);
 
@@ -47,4 +50,5 @@ class ImportCommand {
   Output& output_;
   HostLog& log_;
   std::string target_;
+  std::optional<Normalizer> normalizer_;  // when the step was asked for
 };

@@ -5,6 +5,7 @@
 #include <array>
 #include <vector>
 
+#include "foundation/xml/XmlRewriting.h"
 #include "host/InspectDiagrams.h"
 #include "host/InspectObjects.h"
 #include "host/InspectReport.h"
@@ -71,7 +72,13 @@ void InspectCommand::run() {
   InspectReport report;
   XMIParser parser(&log_);
   if (!settings_.listsObjects) parser.setObserver(&report);
-  parser.parse(KYRFile(KYRString(settings_.file)));
+  const KYRFile input{KYRString(settings_.file)};
+  std::optional<XmlRewriting> rewriting;
+  if (settings_.normalize.isWanted()) {
+    normalizer_.emplace(std::string(input.getFileName().view()), settings_.normalize.getExtent());
+    rewriting.emplace(input, *normalizer_);
+  }
+  parser.parse(input);
   if (settings_.listsObjects) {
     InspectObjects(parser.getObjects(), parser.getMadeObjects()).write(output_);
     return;
@@ -111,6 +118,7 @@ void InspectCommand::writeText(const XMIParser& parser, const InspectReport& rep
   for (const KYRString& id : report.getFirstMissingIds()) out.line(INSPECT_MISSING_ID, shorten(id.view()));
   listNames(out, INSPECT_SKIPPED_TYPES, report.getSkippedTypes());
   listNames(out, INSPECT_UNKNOWN_TAGS, report.getUnknownTags());
+  if (normalizer_) NormalizeSummary::toText(out, normalizer_->getReport());
 }
 
 void InspectCommand::writeJson(const XMIParser& parser, const InspectReport& report,
@@ -146,6 +154,7 @@ void InspectCommand::writeJson(const XMIParser& parser, const InspectReport& rep
   json.endObject();
   namesToJson(json.key("skippedTypes"), "type", report.getSkippedTypes());
   namesToJson(json.key("unknownTags"), "tag", report.getUnknownTags());
+  if (normalizer_) NormalizeSummary::toJson(json.key("normalized"), normalizer_->getReport());
   json.endObject();
   output_.write(json.endLine());
 }

@@ -3,8 +3,10 @@
 // It drives the reader itself and no plug-in: nothing is converted or saved.
 #pragma once
 
+#include <optional>
 #include <string>
 
+#include "host/NormalizeSummary.h"
 #include "host/Output.h"
 
 class InspectDiagrams;
@@ -18,6 +20,7 @@ class InspectCommand {
     std::string file;
     bool isJson = false;
     bool listsObjects = false;
+    NormalizeChoice normalize;
   };
 
   InspectCommand(Settings settings, Output& output, KYRLog& log)
@@ -33,4 +36,5 @@ class InspectCommand {
   Settings settings_;
   Output& output_;
   KYRLog& log_;
+  std::optional<Normalizer> normalizer_;  // when the step was asked for
 };

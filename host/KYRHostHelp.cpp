@@ -125,4 +125,25 @@ const HostText<0> DIAGRAM_HELP_NAME("DIAGRAM_HELP_NAME", "Draw only the diagrams
 const HostText<0> DIAGRAM_HELP_OUTPUT("DIAGRAM_HELP_OUTPUT",
                                       "The folder to write into; without it the current one");
 
+const HostText<0> NORMALIZE_HELP(
+    "NORMALIZE_HELP",
+    "Write a model file as 'kyr import --normalize' would read it.\n"
+    "\n"
+    "For other programs, and for looking at what the step does. The file is UTF-8; comments\n"
+    "and processing instructions are not kept.");
+const HostText<0> NORMALIZE_HELP_EXAMPLES("NORMALIZE_HELP_EXAMPLES",
+                                          "Example:\n"
+                                          "  kyr normalize shop.uml -o shop.xmi");
+const HostText<0> NORMALIZE_HELP_FILE("NORMALIZE_HELP_FILE", "The model file");
+const HostText<0> NORMALIZE_HELP_OUTPUT("NORMALIZE_HELP_OUTPUT", "The file to write");
+const HostText<0> NORMALIZE_HELP_ALL("NORMALIZE_HELP_ALL",
+                                     "Also bring in what an import leaves out on purpose: nested profiles, "
+                                     "components and nodes, classifiers inside classes");
+const HostText<0> HELP_NORMALIZE(
+    "HELP_NORMALIZE",
+    "Bring the file into the usual form before it is read, so that elements which the tool has written in "
+    "its "
+    "own way are not lost. --normalize=all also brings in nested profiles, components and nodes, and "
+    "classifiers inside classes");
+
 }  // namespace KYRHostTexts

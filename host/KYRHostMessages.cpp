@@ -55,6 +55,16 @@ const HostMessage<2> KYRHostMessages::NO_FOLDER(
     30, fatal, "The model cannot be written to '{0}': there is no folder '{1}'");
 const HostMessage<0> KYRHostMessages::APPEND_NEEDS_SQLITE(
     31, fatal, "'--append' adds to a file of the format sqlite; '--format' names another one");
+const HostMessage<0> KYRHostMessages::TOOL_NAME_FOUND(
+    41, warning,
+    "The tool that wrote the file is named in an unusual way; it was understood, so the tool's own data are "
+    "read "
+    "as those of that tool");
+const HostMessage<1> KYRHostMessages::ATTRIBUTE_RINGS(
+    42, warning, "Elements whose attributes hide each other in any order, and stay as they are: {0}");
+const HostMessage<1> KYRHostMessages::NORMALIZED_IS_INPUT(
+    43, fatal,
+    "The rewritten file would be written over the file that it comes from, '{0}'; '-o' names another one");
 
 KYRHostMessages::KYRHostMessages() : KYRTextLiteralsCollection("kyr", HostLiterals::catalogueName) {
   for (KYRTextLiteral* literal : entered()) add(literal);

@@ -33,6 +33,10 @@ class KYRHostMessages final : public KYRTextLiteralsCollection {
   // The output of an import.
   static const HostMessage<2> NO_FOLDER;
   static const HostMessage<0> APPEND_NEEDS_SQLITE;
+  // The normalising step.
+  static const HostMessage<0> TOOL_NAME_FOUND;
+  static const HostMessage<1> ATTRIBUTE_RINGS;
+  static const HostMessage<1> NORMALIZED_IS_INPUT;
   // What should not happen.
   static const HostMessage<0> OUT_OF_MEMORY;
   static const HostMessage<1> UNEXPECTED_ERROR;

@@ -48,6 +48,13 @@ extern const HostText<0> DIAGRAM_HELP_FILE;
 extern const HostText<0> DIAGRAM_HELP_NAME;
 extern const HostText<0> DIAGRAM_HELP_OUTPUT;
 
+extern const HostText<0> NORMALIZE_HELP;
+extern const HostText<0> NORMALIZE_HELP_EXAMPLES;
+extern const HostText<0> NORMALIZE_HELP_FILE;
+extern const HostText<0> NORMALIZE_HELP_OUTPUT;
+extern const HostText<0> NORMALIZE_HELP_ALL;
+extern const HostText<0> HELP_NORMALIZE;
+
 /// The version of the command itself.
 extern const HostText<1> VERSION;
 
@@ -63,6 +70,43 @@ extern const HostText<2> SUMMARY;
 extern const HostText<7> SUMMARY_COUNTS;
 /// With --timing: seconds and phase.
 extern const HostText<2> SUMMARY_PHASE;
+
+// What the normalising step has done, and what an import without it has lost.
+extern const HostText<1> SUMMARY_NORMALIZED;
+extern const HostText<0> SUMMARY_NOT_NORMALIZED;
+extern const HostText<4> SUMMARY_LOST;
+extern const HostText<1> NORMALIZE_WRITTEN;
+
+// The rules of the step: what one changes, and why a file without it loses something.
+extern const HostText<0> RULE_PREFIXES;
+extern const HostText<0> RULE_TYPE_ATTRIBUTE;
+extern const HostText<0> RULE_TYPED_REFERENCE;
+extern const HostText<0> RULE_REPLACED_TYPE;
+extern const HostText<0> RULE_DOCUMENTATION;
+extern const HostText<0> RULE_PROFILE_PACKAGE;
+extern const HostText<0> RULE_COMPONENT_CLASS;
+extern const HostText<0> RULE_LOCAL_HREF;
+extern const HostText<0> RULE_ROOTS;
+extern const HostText<0> RULE_PACKAGE_CONTENT;
+extern const HostText<0> RULE_NESTED_CLASSIFIER;
+extern const HostText<0> RULE_IDS;
+extern const HostText<0> RULE_ID_LIST;
+extern const HostText<0> RULE_SCALAR_ELEMENT;
+extern const HostText<0> RULE_DECLARED_TYPE;
+extern const HostText<0> RULE_ATTRIBUTE_ORDER;
+extern const HostText<0> REASON_PREFIXES;
+extern const HostText<0> REASON_TYPE_ATTRIBUTE;
+extern const HostText<0> REASON_TYPED_REFERENCE;
+extern const HostText<0> REASON_REPLACED_TYPE;
+extern const HostText<0> REASON_DOCUMENTATION;
+extern const HostText<0> REASON_LOCAL_HREF;
+extern const HostText<0> REASON_ROOTS;
+extern const HostText<0> REASON_PACKAGE_CONTENT;
+extern const HostText<0> REASON_IDS;
+extern const HostText<0> REASON_ID_LIST;
+extern const HostText<0> REASON_SCALAR_ELEMENT;
+extern const HostText<0> REASON_DECLARED_TYPE;
+extern const HostText<0> REASON_ATTRIBUTE_ORDER;
 
 /// One line of `kyr diagram` for each picture.
 extern const HostText<1> DIAGRAM_WRITTEN;

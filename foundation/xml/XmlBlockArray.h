@@ -38,13 +38,28 @@ class XmlBlockArray {
     ++size_;
     return *added;
   }
-  /// Bytes of the elements.
-  std::size_t getMemorySize() const noexcept { return size_ * sizeof(T); }
+  /// Takes on the entries of `other`, which must outlive this array and grow no more, without copying
+  /// them. Further entries begin a block of their own, so their indexes leave a gap. To be called on an
+  /// empty array.
+  void shareBlocks(const XmlBlockArray& other) {
+    const std::size_t used = other.size_ == 0 ? 0 : blockOf(other.size_ - 1) + 1;
+    for (std::size_t block = 0; block < used; ++block) {
+      blocks_[block] = Block(other.blocks_[block].get(), Release{false});
+    }
+    size_ = firstOf(used);
+    sharedSize_ = size_;
+  }
+  /// Bytes of the elements in blocks of its own.
+  std::size_t getMemorySize() const noexcept { return (size_ - sharedSize_) * sizeof(T); }
 
  private:
   struct Release {
-    void operator()(T* block) const noexcept { ::operator delete(block); }
+    bool owns = true;
+    void operator()(T* block) const noexcept {
+      if (owns) ::operator delete(block);
+    }
   };
+  using Block = std::unique_ptr<T, Release>;
   // Block 0 holds the first 2^10 elements, block n those from 2^(9+n) on.
   static constexpr std::size_t blockCount = 64 - firstBlockShift;
 
@@ -68,6 +83,7 @@ class XmlBlockArray {
     return blocks_[block].get() + (index - firstOf(block));
   }
 
-  std::array<std::unique_ptr<T, Release>, blockCount> blocks_;
+  std::array<Block, blockCount> blocks_;
   std::size_t size_ = 0;
+  std::size_t sharedSize_ = 0;
 };

@@ -36,5 +36,5 @@ const KYRString* XmlDocument::findAttribute(Node node, Name name) const noexcept
 
 std::size_t XmlDocument::getMemorySize() const noexcept {
   return sizeof *this + nodes_.getMemorySize() + attributes_.getMemorySize() + texts_.getMemorySize() +
-         names_.getMemorySize() + arena_.getMemorySize();
+         names_.getMemorySize() + arena_.getMemorySize() + (source_ ? source_->getMemorySize() : 0);
 }

@@ -10,6 +10,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 
 #include "foundation/Export.h"
 #include "foundation/KYRString.h"
@@ -68,6 +69,7 @@ class KYR_EXPORT XmlDocument {
 
  private:
   friend class XmlDocumentBuilder;
+  friend class XmlDocumentEditor;
   XmlDocument();
 
   struct NodeRecord {
@@ -88,4 +90,5 @@ class KYR_EXPORT XmlDocument {
   XmlBlockArray<KYRString> texts_;
   XmlNameTable names_;
   XmlTextArena arena_;
+  std::shared_ptr<const XmlDocument> source_;  // a rewritten document shows the texts of this one
 };

@@ -9,9 +9,9 @@ XmlDocumentCache& XmlDocumentCache::get() noexcept {
 }
 
 std::shared_ptr<const XmlDocument> XmlDocumentCache::find(const XmlFileIdentity& identity,
-                                                          const std::string& forcedEncoding) {
+                                                          const std::string& forcedEncoding, Form form) {
   for (const Entry& entry : entries_) {
-    if (entry.identity == identity && entry.forcedEncoding == forcedEncoding) {
+    if (entry.form == form && entry.identity == identity && entry.forcedEncoding == forcedEncoding) {
       if (std::shared_ptr<const XmlDocument> document = entry.document.lock()) return document;
     }
   }
@@ -19,7 +19,11 @@ std::shared_ptr<const XmlDocument> XmlDocumentCache::find(const XmlFileIdentity&
 }
 
 void XmlDocumentCache::add(const XmlFileIdentity& identity, const std::string& forcedEncoding,
-                           const std::shared_ptr<const XmlDocument>& document) {
+                           const std::shared_ptr<const XmlDocument>& document, Form form) {
   std::erase_if(entries_, [](const Entry& entry) { return entry.document.expired(); });
-  entries_.push_back({identity, forcedEncoding, document});
+  entries_.push_back({identity, forcedEncoding, form, document});
+}
+
+void XmlDocumentCache::forgetRewritten() noexcept {
+  std::erase_if(entries_, [](const Entry& entry) { return entry.form == Form::rewritten; });
 }

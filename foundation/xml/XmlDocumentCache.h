@@ -15,16 +15,24 @@ class KYR_EXPORT XmlDocumentCache {
  public:
   /// The cache of the process.
   static XmlDocumentCache& get() noexcept;
-  /// The living document of that very file, read with that forced encoding; null when there is none.
-  std::shared_ptr<const XmlDocument> find(const XmlFileIdentity& identity, const std::string& forcedEncoding);
+  /// A file may be known as it was written and as a host has rewritten it (XmlRewriting).
+  enum class Form { asWritten, rewritten };
+
+  /// The living document of that very file in that form, read with that forced encoding; null when
+  /// there is none.
+  std::shared_ptr<const XmlDocument> find(const XmlFileIdentity& identity, const std::string& forcedEncoding,
+                                          Form form = Form::asWritten);
   /// To be called with complete documents only.
   void add(const XmlFileIdentity& identity, const std::string& forcedEncoding,
-           const std::shared_ptr<const XmlDocument>& document);
+           const std::shared_ptr<const XmlDocument>& document, Form form = Form::asWritten);
+  /// Forgets the rewritten documents: they belong to a rewriting that has ended.
+  void forgetRewritten() noexcept;
 
  private:
   struct Entry {
     XmlFileIdentity identity;
     std::string forcedEncoding;
+    Form form;
     std::weak_ptr<const XmlDocument> document;
   };
   std::vector<Entry> entries_;

@@ -8,6 +8,7 @@
 
 #include "foundation/KYRPhaseTimes.h"
 #include "repository/KYRRepositoryMessages.h"
+#include "repository/storage/BackgroundSink.h"
 #include "repository/storage/BlockInput.h"
 #include "repository/storage/JsonStoreModelWriter.h"
 #include "repository/storage/ReplacedFile.h"
@@ -63,8 +64,10 @@ class JsonEvents {
 template <class Writer>
 void saveAsText(const KYRFile& file, const KYRStoreModel& model) {
   ReplacedFile output(file);
-  Writer writer(output);
+  BackgroundSink background(output);
+  Writer writer(background);
   writeStoreModel(model, writer);
+  background.finish();
   output.commit();
 }
 

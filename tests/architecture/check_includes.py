@@ -34,7 +34,9 @@ LAYERS = {
     "convert": CONVERSION,
     "diagram": CONVERSION,
     "bridge": CONVERSION,
-    "host": FOUNDATION | {"repository"},
+    # What a host may do to a file before it is read.
+    "normalize": READER,
+    "host": FOUNDATION | {"repository", "normalize"},
 }
 
 # The upward edges that are meant: the files that have one, and what they may include by it.

@@ -1,0 +1,87 @@
+// Models first, since they decide what is a package; then tags; then associations.
+#include "normalize/PackageContentRule.h"
+
+#include "normalize/PackageMove.h"
+#include "uml/UMLClasses.h"
+#include "xmi/XMINames.h"
+
+void PackageContentRule::apply(NormalizedDocument& document) {
+  turnModelsIntoPackages(document);
+  renameContent(document);
+  moveAssociations(document);
+}
+
+void PackageContentRule::turnModelsIntoPackages(NormalizedDocument& document) {
+  XmlDocumentEditor& editor = document.editor;
+  bool isChanged = false;
+  for (Node node = 0; node < editor.getNodeCount(); ++node) {
+    if (!document.isModel(node)) continue;
+    const Node parent = editor.getParent(node);
+    if (parent == noNode || !document.isModel(parent)) continue;  // the home
+    const bool isTag = editor.getName(node) == document.umlModel;
+    if (!isTag && document.attribute(node, document.xmiType).view() != XMINames::umlModel) continue;
+    if (isTag) editor.setName(node, document.packagedElement);
+    document.setType(node, XMINames::umlPackage);
+    document.report.note(NormalizeRule::packageContent, document.isEmpty(node, document.href));
+    isChanged = true;
+  }
+  if (isChanged) document.forgetReadings();
+}
+
+void PackageContentRule::renameContent(NormalizedDocument& document) {
+  XmlDocumentEditor& editor = document.editor;
+  const Name ownedType = editor.intern("ownedType");
+  const Name nestedPackage = editor.intern("nestedPackage");
+  const Name ownedMember = editor.intern("ownedMember");
+  std::vector<Node> packages;  // that have an ownedMember, each once for a run of them
+  for (Node node = 0; node < editor.getNodeCount(); ++node) {
+    if (!editor.isElement(node)) continue;
+    const Name tag = editor.getName(node);
+    if (tag != ownedType && tag != nestedPackage && tag != ownedMember) continue;
+    if (!document.isObject(node)) continue;
+    const Node parent = editor.getParent(node);
+    if (document.readingOf(node).object != parent || !PackageMove::isPackage(document, parent)) continue;
+    if (tag == ownedMember) {
+      if (packages.empty() || packages.back() != parent) packages.push_back(parent);
+      continue;
+    }
+    // Under the new tag the element would be made as something else.
+    if (document.isEmpty(node, document.xmiType)) {
+      document.setType(node, ReaderVocabulary::typeOfKind(document.readingOf(node).kind));
+    }
+    editor.setName(node, document.packagedElement);
+    document.report.note(NormalizeRule::packageContent);
+  }
+  std::vector<bool> isDone(editor.getNodeCount());
+  for (const Node package : packages) {
+    if (!isDone[package]) renameMembers(document, package);
+    isDone[package] = true;
+  }
+}
+
+void PackageContentRule::renameMembers(NormalizedDocument& document, Node package) {
+  XmlDocumentEditor& editor = document.editor;
+  const Name ownedMember = editor.intern("ownedMember");
+  bool hasPackaged = false;
+  for (Node child = editor.getFirst(package); child != noNode && !hasPackaged;
+       child = editor.getNext(child)) {
+    hasPackaged = editor.isElement(child) && editor.getName(child) == document.packagedElement;
+  }
+  if (!hasPackaged) return;
+  for (Node child = editor.getFirst(package); child != noNode; child = editor.getNext(child)) {
+    if (!editor.isElement(child) || editor.getName(child) != ownedMember || !document.isObject(child))
+      continue;
+    if (!UMLLineage::isKindOf(document.readingOf(child).kind, UMLPackageableElement::kind)) continue;
+    editor.setName(child, document.packagedElement);
+    document.report.note(NormalizeRule::packageContent);
+  }
+}
+
+void PackageContentRule::moveAssociations(NormalizedDocument& document) {
+  PackageMove moves(document, NormalizeRule::packageContent);
+  for (Node node = 0; node < document.editor.getNodeCount(); ++node) {
+    if (!document.isObject(node) || document.readingOf(node).kind != UMLAssociation::kind) continue;
+    if (moves.isInClassifier(node)) moves.plan(node);
+  }
+  moves.perform();
+}
