@@ -43,5 +43,7 @@ void SavedModelCounts::countLine(std::string_view line) {
     ++operations;
   } else if (name == "KYRArgument") {
     ++arguments;
+  } else if (name == "KYRAssociation") {
+    ++associations;
   }
 }

@@ -21,6 +21,7 @@ class SavedModelCounts {
   std::uint64_t attributes = 0;
   std::uint64_t operations = 0;
   std::uint64_t arguments = 0;
+  std::uint64_t associations = 0;
 
  private:
   void countLine(std::string_view line);

@@ -5,6 +5,7 @@
 // need its destructor, so the blocks are given back as they are.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -34,6 +35,19 @@ class XmlBlockArray {
     T* const added = new (makeRoom()) T(make());
     ++size_;
     return *added;
+  }
+  /// Appends `count` entries of another array, from an index on.
+  void appendFrom(const XmlBlockArray& other, std::size_t from, std::size_t count) {
+    while (count != 0) {
+      T* const place = makeRoom();
+      const std::size_t left = blockSize - (size_ & (blockSize - 1));
+      const std::size_t there = blockSize - (from & (blockSize - 1));
+      const std::size_t piece = std::min({count, left, there});
+      std::uninitialized_copy_n(other.at(from), piece, place);
+      size_ += piece;
+      from += piece;
+      count -= piece;
+    }
   }
   /// Takes on the entries of `other`, which must outlive this array and grow no more, without copying
   /// them. Further entries begin a block of their own, so their indexes start at the next multiple of
