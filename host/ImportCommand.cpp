@@ -43,6 +43,15 @@ void countsToJson(JsonOut& json, const SavedModelCounts& counts) {
   json.key("diagrams").number(counts.diagrams);
 }
 
+void lossToJson(JsonOut& json, const LossSurvey::Loss& loss) {
+  json.key("lost").beginObject();
+  json.key("classes").number(loss.classes);
+  json.key("attributes").number(loss.attributes);
+  json.key("associations").number(loss.associations);
+  json.key("reasons").text(loss.reasons);
+  json.endObject();
+}
+
 }  // namespace
 
 int ImportCommand::run() {
@@ -74,6 +83,8 @@ void ImportCommand::importFile(KYROptionList& options) {
   if (settings_.normalize.isWanted()) {
     normalizer_.emplace(std::string(input.getFileName().view()), settings_.normalize.getExtent());
     rewriting.emplace(input, *normalizer_);
+  } else if (!settings_.isQuiet) {
+    rewriting.emplace(input, survey_);
   }
   KYRFile target{KYRString(target_)};
   if (!library_.getPlugin().run(originId, target, options, log_)) {
@@ -133,6 +144,10 @@ void ImportCommand::setOption(KYROptionList& options, const char* identifier, co
 
 void ImportCommand::writeSummary(double seconds, const std::optional<SavedModelCounts>& counts,
                                  const PhaseReport& phases) {
+  std::optional<LossSurvey::Loss> loss;
+  if (counts.has_value() && !normalizer_) {
+    loss = survey_.compare(KYRFile(KYRString(settings_.file)), *counts, !settings_.rootPackage.empty());
+  }
   if (settings_.format == HostLog::Format::json) {
     JsonOut json;
     json.beginObject();
@@ -140,6 +155,7 @@ void ImportCommand::writeSummary(double seconds, const std::optional<SavedModelC
     json.key("seconds").real(seconds);
     if (counts.has_value()) countsToJson(json, *counts);
     if (normalizer_) NormalizeSummary::toJson(json.key("normalized"), normalizer_->getReport());
+    if (loss.has_value()) lossToJson(json, *loss);
     phases.write(json);
     json.endObject();
     output_.write(json.endLine());
@@ -152,5 +168,8 @@ void ImportCommand::writeSummary(double seconds, const std::optional<SavedModelC
              counts->attributes, counts->operations, counts->arguments, counts->diagrams);
   }
   if (normalizer_) NormalizeSummary::toText(out, normalizer_->getReport());
+  if (loss.has_value()) {
+    out.line(KYRHostTexts::SUMMARY_LOST, loss->classes, loss->attributes, loss->associations, loss->reasons);
+  }
   phases.write(out);
 }

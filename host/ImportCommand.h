@@ -5,6 +5,7 @@
 #include <string>
 
 #include "host/HostLog.h"
+#include "host/LossSurvey.h"
 #include "host/ModelSaver.h"
 #include "host/NormalizeSummary.h"
 #include "host/Output.h"
@@ -51,4 +52,5 @@ class ImportCommand {
   HostLog& log_;
   std::string target_;
   std::optional<Normalizer> normalizer_;  // when the step was asked for
+  LossSurvey survey_;                     // of an import without it
 };

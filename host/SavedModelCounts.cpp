@@ -27,6 +27,9 @@ struct Counting {
       case KYRElementType::argument:
         ++counts.arguments;
         break;
+      case KYRElementType::association:
+        ++counts.associations;
+        break;
       case KYRElementType::classDiagram:
         ++counts.diagrams;
         break;

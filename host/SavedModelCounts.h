@@ -15,5 +15,6 @@ struct SavedModelCounts {
   std::uint64_t attributes = 0;
   std::uint64_t operations = 0;
   std::uint64_t arguments = 0;
+  std::uint64_t associations = 0;
   std::uint64_t diagrams = 0;
 };

@@ -13,8 +13,8 @@ enum State : char { waiting, underWay, placed };
 void AttributeOrderRule::apply(NormalizedDocument& document) {
   XmlDocumentEditor& editor = document.editor;
   places_.assign(static_cast<std::size_t>(ReaderNames::get().getCount()), none);
-  for (Node node = 0; node < editor.getNodeCount(); ++node) {
-    if (!document.isModel(node) || document.readingOf(node).role == Role::skipped) continue;
+  for (const Node node : document.getModelElements()) {
+    if (!editor.isElement(node) || document.readingOf(node).role == Role::skipped) continue;
     if (!findPredecessors(editor, node)) continue;
     if (findOrder()) {
       editor.orderAttributes(node, order_);

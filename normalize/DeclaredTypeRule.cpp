@@ -11,8 +11,8 @@ void DeclaredTypeRule::apply(NormalizedDocument& document) {
   const auto rowOf = [&document](Node node, const Reading& reading) {
     return ReaderVocabulary::findRow(document.wordOfTag(node), document.readingOf(reading.object).kind);
   };
-  for (Node node = 0; node < editor.getNodeCount(); ++node) {
-    if (!document.isModel(node)) continue;
+  for (const Node node : document.getModelElements()) {
+    if (!editor.isElement(node)) continue;
     const Reading reading = document.readingOf(node);
     if (reading.object == noNode) continue;
     if (reading.role == Role::reference && !rows.empty() && rows.count(rowOf(node, reading)) != 0) {

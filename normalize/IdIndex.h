@@ -10,7 +10,7 @@ class IdIndex {
   static constexpr std::uint32_t none = 0xFFFFFFFFU;
 
   /// `expected` is the number of ids to make room for.
-  explicit IdIndex(std::size_t expected);
+  explicit IdIndex(std::size_t expected = 0);
   /// Enters an id, whose characters must outlive the index and end in a zero. Returns who bore it before, or
   /// `none`.
   std::uint32_t enter(std::string_view id, std::uint32_t bearer);

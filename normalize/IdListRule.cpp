@@ -23,9 +23,7 @@ void IdListRule::apply(NormalizedDocument& document) {
   const ReaderVocabulary& vocabulary = ReaderVocabulary::get();
   XmlDocumentEditor& editor = document.editor;
   std::vector<Name> lists;
-  const Node count = editor.getNodeCount();
-  for (Node node = 0; node < count; ++node) {
-    if (!document.isObject(node)) continue;
+  for (const Node node : document.getObjects()) {
     const int kind = document.readingOf(node).kind;
     lists.clear();
     for (std::uint32_t index = 0; index < editor.getAttributeCount(node); ++index) {

@@ -1,34 +1,37 @@
-// One walk in the order of reading, with the elements that are open on a stack.
+// One walk over the objects in the order of reading, with those that are open on a stack. New ids are given
+// behind it, when all that are taken are known.
 #include "normalize/IdRule.h"
 
 #include "uml/UMLClasses.h"
 
 void IdRule::apply(NormalizedDocument& document) {
-  const XmlDocumentEditor& editor = document.editor;
+  const std::vector<Node>& objects = document.getObjects();
+  document.getIds() = IdIndex(objects.size());
   IdIndex& ids = document.getIds();
-  isOpen_.assign(editor.getNodeCount(), false);
-  for (Node node = 0; node != noNode; node = editor.getFollowing(node)) {
-    if (!editor.isElement(node)) continue;
+  isOpen_.assign(document.editor.getNodeCount(), false);
+  std::vector<Node> without;
+  std::vector<Node> others;  // that bear the id of another one
+  for (const Node node : objects) {
     enter(document, node);
-    if (!document.isObject(node)) continue;
     const KYRString& id = document.attribute(node, document.xmiId);
     if (id.isEmpty()) {
       // What stands for an element of another file is none of this one.
-      if (document.isEmpty(node, document.href)) giveId(document, node);
+      if (document.isEmpty(node, document.href)) without.push_back(node);
       continue;
     }
-    const Node first = ids.find(id.view());
-    if (first == node || !isAnother(document, node, first)) continue;
-    const std::string fresh = document.makeId(node, ids);
-    document.editor.setAttribute(node, document.xmiId, fresh);
-    ids.enter(document.attribute(node, document.xmiId).view(), node);
+    const Node first = ids.enter(id.view(), node);
+    if (first != IdIndex::none && isAnother(document, node, first)) others.push_back(node);
+  }
+  for (const Node node : without) giveId(document, node);
+  for (const Node node : others) {
+    setId(document, node, document.makeId(node, ids));
     document.report.note(NormalizeRule::ids);
   }
 }
 
 void IdRule::enter(NormalizedDocument& document, Node node) {
-  const Node parent = document.editor.getParent(node);
-  while (!open_.empty() && open_.back() != parent) {
+  // Between an object and the one around it may stand elements that make none.
+  while (!open_.empty() && open_.back() != document.readingOf(node).object) {
     isOpen_[open_.back()] = false;
     open_.pop_back();
   }
@@ -36,15 +39,18 @@ void IdRule::enter(NormalizedDocument& document, Node node) {
   isOpen_[node] = true;
 }
 
+void IdRule::setId(NormalizedDocument& document, Node node, const std::string& id) {
+  document.editor.setAttribute(node, document.xmiId, id);
+  document.getIds().enter(document.attribute(node, document.xmiId).view(), node);
+}
+
 // The reader itself takes the name of a model for its id.
 void IdRule::giveId(NormalizedDocument& document, Node node) {
-  IdIndex& ids = document.getIds();
+  const IdIndex& ids = document.getIds();
   const KYRString& name = document.attribute(node, document.name);
   const bool isNamedModel = document.readingOf(node).kind == UMLModel::kind && !name.isEmpty() &&
                             ids.find(name.view()) == IdIndex::none;
-  const std::string id = isNamedModel ? std::string(name.view()) : document.makeId(node, ids);
-  document.editor.setAttribute(node, document.xmiId, id);
-  ids.enter(document.attribute(node, document.xmiId).view(), node);
+  setId(document, node, isNamedModel ? std::string(name.view()) : document.makeId(node, ids));
   document.report.note(NormalizeRule::ids, !isNamedModel);
 }
 

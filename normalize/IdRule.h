@@ -15,9 +15,10 @@ class IdRule final : public DocumentRule {
  private:
   void enter(NormalizedDocument& document, Node node);
   static void giveId(NormalizedDocument& document, Node node);
+  static void setId(NormalizedDocument& document, Node node, const std::string& id);
   static KYRString nameOf(const NormalizedDocument& document, Node node);
   bool isAnother(NormalizedDocument& document, Node node, Node first) const;
 
-  std::vector<Node> open_;  // the elements around the one at hand
+  std::vector<Node> open_;  // the objects around the one at hand
   std::vector<bool> isOpen_;
 };

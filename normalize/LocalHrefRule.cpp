@@ -5,7 +5,6 @@
 #include "normalize/TypedReferenceRule.h"
 
 bool LocalHrefRule::isCandidate(const NormalizedDocument& document, Node node) {
-  if (!document.isModel(node)) return false;
   const KYRString& target = document.attribute(node, document.href);
   return target.getLength() > 1 && target.view().front() == '#' &&
          document.isEmpty(node, document.xmiIdref) && TypedReferenceRule::canRefer(document, node);
@@ -14,7 +13,7 @@ bool LocalHrefRule::isCandidate(const NormalizedDocument& document, Node node) {
 void LocalHrefRule::apply(NormalizedDocument& document) {
   XmlDocumentEditor& editor = document.editor;
   std::vector<Node> candidates;
-  for (Node node = 0; node < editor.getNodeCount(); ++node) {
+  for (const Node node : document.getModelElements()) {
     if (isCandidate(document, node)) candidates.push_back(node);
   }
   if (candidates.empty()) return;

@@ -7,8 +7,7 @@
 void NestedClassifierRule::apply(NormalizedDocument& document) {
   const XmlDocumentEditor& editor = document.editor;
   PackageMove moves(document, NormalizeRule::nestedClassifier);
-  for (Node node = 0; node < editor.getNodeCount(); ++node) {
-    if (!document.isObject(node)) continue;
+  for (const Node node : document.getObjects()) {
     const int kind = document.readingOf(node).kind;
     if (!UMLLineage::isKindOf(kind, UMLClassifier::kind) || UMLLineage::isKindOf(kind, UMLBehavior::kind))
       continue;

@@ -77,21 +77,25 @@ void NormalizedDocument::findRegions() {
     if (parent != noNode) region = regions_[parent];
     if (isShielded[editor.getName(node)]) region = Region::shielded;
     const bool maybeRoot = parent == noNode ? !isXmiRoot_ : parent == 0 && isXmiRoot_;
-    if (region != Region::foreign || !maybeRoot || !isRoot(node)) continue;
-    region = Region::model;
-    roots_.push_back(node);
+    if (region == Region::foreign && maybeRoot && isRoot(node)) {
+      region = Region::model;
+      roots_.push_back(node);
+    }
+    if (region == Region::model) modelElements_.push_back(node);
   }
 }
 
 NormalizedDocument::Node NormalizedDocument::addElement(Name tag, Node origin) {
   const Node node = editor.addElement(tag, origin);
-  regions_.resize(editor.getNodeCount(), Region::model);
-  if (!readings_.empty()) readings_.resize(editor.getNodeCount());
+  regions_.push_back(Region::model);
+  modelElements_.push_back(node);
+  if (!readings_.empty()) readings_.emplace_back();
   return node;
 }
 
 void NormalizedDocument::computeReadings() {
   readings_.assign(editor.getNodeCount(), Reading());
+  objects_.clear();
   for (Node node = 0; node != noNode;) {
     if (!editor.isElement(node)) {
       node = editor.getFollowing(node);
@@ -101,6 +105,7 @@ void NormalizedDocument::computeReadings() {
     if (regions_[node] != Region::shielded) {
       const Node parent = editor.getParent(node);
       readings_[node] = read(node, parent == noNode ? Reading() : readings_[parent], parent);
+      if (readings_[node].role == Role::object && regions_[node] == Region::model) objects_.push_back(node);
     }
     node = readings_[node].role == Role::skipped ? editor.getBehind(node) : editor.getFollowing(node);
   }
@@ -140,22 +145,9 @@ NormalizedDocument::Reading NormalizedDocument::read(Node node, const Reading& p
   return reading;
 }
 
-IdIndex& NormalizedDocument::getIds() {
-  if (ids_) return *ids_;
-  ids_ = std::make_unique<IdIndex>(editor.getNodeCount() / 4);
-  for (Node node = 0; node != noNode; node = editor.getFollowing(node)) {
-    if (!isObject(node)) continue;
-    ++steps_;
-    const KYRString& id = attribute(node, xmiId);
-    if (!id.isEmpty()) ids_->enter(id.view(), node);
-  }
-  return *ids_;
-}
-
 IdIndex NormalizedDocument::indexModel() const {
-  IdIndex ids(editor.getNodeCount() / 4);
-  for (Node node = 0; node < editor.getNodeCount(); ++node) {
-    if (!isModel(node)) continue;
+  IdIndex ids(modelElements_.size());
+  for (const Node node : modelElements_) {
     const KYRString& id = attribute(node, xmiId);
     if (!id.isEmpty()) ids.enter(id.view(), node);
   }

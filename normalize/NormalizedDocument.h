@@ -62,6 +62,9 @@ class NormalizedDocument {
   /// Parts the document into regions: to be called once, when tags have their usual spelling.
   void findRegions();
   bool isModel(Node node) const { return editor.isElement(node) && regions_[node] == Region::model; }
+  /// All elements of the model in the order of the file, added ones last; who walks over them must expect
+  /// that one was removed.
+  const std::vector<Node>& getModelElements() const noexcept { return modelElements_; }
   /// The elements below the document's root that are models, packages or elements of packages; the
   /// document's root itself when it is one.
   const std::vector<Node>& getRoots() const noexcept { return roots_; }
@@ -77,13 +80,18 @@ class NormalizedDocument {
   /// To be called by who moved elements or changed their tags or types.
   void forgetReadings() noexcept { readings_.clear(); }
   void setReading(Node node, const Reading& reading) { readings_[node] = reading; }
+  /// The elements of the model that the reader makes objects of, in the order in which it does.
+  const std::vector<Node>& getObjects() {
+    if (readings_.empty()) computeReadings();
+    return objects_;
+  }
   bool isObject(Node node) { return isModel(node) && readingOf(node).role == Role::object; }
 
   /// The elements of the model by id, the first of an id in the order of the file.
   IdIndex indexModel() const;
-  /// The objects of the model by id, the first of an id in the order of reading; as they stand at the first
-  /// call.
-  IdIndex& getIds();
+  /// The objects of the model by id, the first of an id in the order of reading. Empty before the rule about
+  /// ids has filled it.
+  IdIndex& getIds() noexcept { return ids_; }
   /// An id that is not in the index, the same for the same place in the file.
   std::string makeId(Node node, const IdIndex& ids) const;
   /// Elements visited by the walks so far; tests see by it that the cost stays linear.
@@ -103,9 +111,11 @@ class NormalizedDocument {
   std::vector<const Word*> words_;  // by name
   std::vector<TypeSlot> types_;     // of the type texts met last, by their address
   std::vector<Region> regions_;
+  std::vector<Node> modelElements_;
   std::vector<Node> roots_;
   std::vector<Reading> readings_;
-  std::unique_ptr<IdIndex> ids_;
+  std::vector<Node> objects_;
+  IdIndex ids_;
   bool isXmiRoot_ = false;
   std::uint64_t steps_ = 0;
 };

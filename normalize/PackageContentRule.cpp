@@ -14,8 +14,7 @@ void PackageContentRule::apply(NormalizedDocument& document) {
 void PackageContentRule::turnModelsIntoPackages(NormalizedDocument& document) {
   XmlDocumentEditor& editor = document.editor;
   bool isChanged = false;
-  for (Node node = 0; node < editor.getNodeCount(); ++node) {
-    if (!document.isModel(node)) continue;
+  for (const Node node : document.getModelElements()) {
     const Node parent = editor.getParent(node);
     if (parent == noNode || !document.isModel(parent)) continue;  // the home
     const bool isTag = editor.getName(node) == document.umlModel;
@@ -34,8 +33,7 @@ void PackageContentRule::renameContent(NormalizedDocument& document) {
   const Name nestedPackage = editor.intern("nestedPackage");
   const Name ownedMember = editor.intern("ownedMember");
   std::vector<Node> packages;  // that have an ownedMember, each once for a run of them
-  for (Node node = 0; node < editor.getNodeCount(); ++node) {
-    if (!editor.isElement(node)) continue;
+  for (const Node node : document.getModelElements()) {
     const Name tag = editor.getName(node);
     if (tag != ownedType && tag != nestedPackage && tag != ownedMember) continue;
     if (!document.isObject(node)) continue;
@@ -79,8 +77,8 @@ void PackageContentRule::renameMembers(NormalizedDocument& document, Node packag
 
 void PackageContentRule::moveAssociations(NormalizedDocument& document) {
   PackageMove moves(document, NormalizeRule::packageContent);
-  for (Node node = 0; node < document.editor.getNodeCount(); ++node) {
-    if (!document.isObject(node) || document.readingOf(node).kind != UMLAssociation::kind) continue;
+  for (const Node node : document.getObjects()) {
+    if (document.readingOf(node).kind != UMLAssociation::kind) continue;
     if (moves.isInClassifier(node)) moves.plan(node);
   }
   moves.perform();

@@ -37,8 +37,7 @@ const ReplacedTypeRule::Replacement* ReplacedTypeRule::find(const std::vector<Re
 
 void ReplacedTypeRule::apply(NormalizedDocument& document) {
   XmlDocumentEditor& editor = document.editor;
-  for (Node node = 0; node < editor.getNodeCount(); ++node) {
-    if (!document.isModel(node)) continue;
+  for (const Node node : document.getModelElements()) {
     const KYRString& type = document.attribute(node, document.xmiType);
     const bool isKnown = type.isEmpty() || document.kindOfType(type) != NormalizedDocument::noKind;
     const Replacement* const newType = isKnown ? nullptr : find(types_, type.view());

@@ -5,8 +5,8 @@
 
 void ScalarElementRule::apply(NormalizedDocument& document) {
   XmlDocumentEditor& editor = document.editor;
-  for (Node node = 0; node < editor.getNodeCount(); ++node) {
-    if (!document.isModel(node) || !isScalar(document, node)) continue;
+  for (const Node node : document.getModelElements()) {
+    if (!isScalar(document, node)) continue;
     const KYRString text = editor.getContent(node);
     const Node parent = editor.getParent(node);
     if (text.isEmpty() || hasAttribute(editor, parent, editor.getTag(node).view())) continue;

@@ -4,8 +4,7 @@
 void TypeAttributeRule::apply(NormalizedDocument& document) {
   XmlDocumentEditor& editor = document.editor;
   const Name schemaType = editor.intern("xsi:type");
-  for (Node node = 0; node < editor.getNodeCount(); ++node) {
-    if (!document.isModel(node)) continue;
+  for (const Node node : document.getModelElements()) {
     if (!document.attribute(node, schemaType).view().starts_with("uml:")) continue;
     if (!document.isEmpty(node, document.xmiType)) continue;
     editor.removeAttribute(node, document.xmiType);

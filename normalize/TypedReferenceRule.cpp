@@ -8,8 +8,8 @@ bool TypedReferenceRule::canRefer(const NormalizedDocument& document, Node node)
 
 void TypedReferenceRule::apply(NormalizedDocument& document) {
   XmlDocumentEditor& editor = document.editor;
-  for (Node node = 0; node < editor.getNodeCount(); ++node) {
-    if (!document.isModel(node) || document.isEmpty(node, document.xmiIdref)) continue;
+  for (const Node node : document.getModelElements()) {
+    if (document.isEmpty(node, document.xmiIdref)) continue;
     if (editor.findAttribute(node, document.xmiType) == nullptr || !canRefer(document, node)) continue;
     editor.removeAttribute(node, document.xmiType);
     document.report.note(NormalizeRule::typedReference);

@@ -7,6 +7,7 @@
 // destructor, so the blocks are given back as they are.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <cstddef>
@@ -37,6 +38,19 @@ class XmlBlockArray {
     T* const added = new (makeRoom()) T(make());
     ++size_;
     return *added;
+  }
+  /// Appends `count` entries of another array, from an index on.
+  void appendFrom(const XmlBlockArray& other, std::size_t from, std::size_t count) {
+    while (count != 0) {
+      T* const place = makeRoom();
+      const std::size_t left = endOf(size_) - size_;
+      const std::size_t there = endOf(from) - from;
+      const std::size_t piece = std::min({count, left, there});
+      std::uninitialized_copy_n(other.at(from), piece, place);
+      size_ += piece;
+      from += piece;
+      count -= piece;
+    }
   }
   /// Takes on the entries of `other`, which must outlive this array and grow no more, without copying
   /// them. Further entries begin a block of their own, so their indexes leave a gap. To be called on an
@@ -69,6 +83,9 @@ class XmlBlockArray {
   static std::size_t firstOf(std::size_t block) noexcept {
     return block == 0 ? 0 : firstBlockSize << (block - 1);
   }
+
+  // Where the block of an element ends.
+  static std::size_t endOf(std::size_t index) noexcept { return firstOf(blockOf(index) + 1); }
 
   T* makeRoom() {
     const std::size_t block = blockOf(size_);

@@ -23,29 +23,29 @@ XmlDocumentEditor::XmlDocumentEditor(std::shared_ptr<const XmlDocument> source)
   for (Name name = 0; name < source_->getNameCount(); ++name) intern(source_->getNameText(name).view());
   result_->texts_.shareBlocks(source_->texts_);
   result_->source_ = source_;
-  link();
+  heads_.reserve(source_->getNodeCount());
+  for (Node node = 0; node < source_->getNodeCount(); ++node) {
+    heads_.push_back(
+        {source_->getName(node), source_->nodes_[node].firstAttribute, source_->getAttributeCount(node)});
+  }
 }
 
 XmlDocumentEditor::~XmlDocumentEditor() = default;
 
 void XmlDocumentEditor::link() {
+  isChanged_ = true;
+  if (!links_.empty()) return;
   const Node count = source_->getNodeCount();
-  nodes_.reserve(count);
+  links_.reserve(count);
   for (Node node = 0; node < count; ++node) {
-    const XmlDocument::NodeRecord& from = source_->nodes_[node];
-    Record record = {from.name, from.parent, noNode, noNode, noNode, noNode, from.firstAttribute, 0, node};
-    record.attributeCount = source_->getAttributeCount(node);
-    if (from.parent != noNode) {
-      Record& parent = nodes_[from.parent];
-      record.previous = parent.last;
-      if (parent.last == noNode) {
-        parent.first = node;
-      } else {
-        nodes_[parent.last].next = node;
-      }
+    Link linked = {source_->getParent(node), noNode, noNode, noNode, noNode};
+    if (linked.parent != noNode) {
+      Link& parent = links_[linked.parent];
+      linked.previous = parent.last;
+      (parent.last == noNode ? parent.first : links_[parent.last].next) = node;
       parent.last = node;
     }
-    nodes_.push_back(record);
+    links_.push_back(linked);
   }
 }
 
@@ -53,26 +53,43 @@ XmlDocumentEditor::Name XmlDocumentEditor::intern(std::string_view name) {
   return result_->names_.intern(name, result_->arena_);
 }
 
+XmlDocumentEditor::Node XmlDocumentEditor::getFirst(Node node) const noexcept {
+  if (!links_.empty()) return links_[node].first;
+  return source_->getEnd(node) > node + 1 ? node + 1 : noNode;
+}
+
+XmlDocumentEditor::Node XmlDocumentEditor::getNext(Node node) const noexcept {
+  if (!links_.empty()) return links_[node].next;
+  const Node parent = source_->getParent(node);
+  const Node end = source_->getEnd(node);
+  return parent != noNode && end < source_->getEnd(parent) ? end : noNode;
+}
+
 XmlDocumentEditor::Node XmlDocumentEditor::getFollowing(Node node) const noexcept {
-  return nodes_[node].first != noNode ? nodes_[node].first : getBehind(node);
+  if (links_.empty()) return node + 1 < source_->getNodeCount() ? node + 1 : noNode;
+  return links_[node].first != noNode ? links_[node].first : getBehind(node);
 }
 
 XmlDocumentEditor::Node XmlDocumentEditor::getBehind(Node node) const noexcept {
-  while (node != noNode && nodes_[node].next == noNode) node = nodes_[node].parent;
-  return node == noNode ? noNode : nodes_[node].next;
+  if (links_.empty()) {
+    const Node end = source_->getEnd(node);
+    return end < source_->getNodeCount() ? end : noNode;
+  }
+  while (node != noNode && links_[node].next == noNode) node = links_[node].parent;
+  return node == noNode ? noNode : links_[node].next;
 }
 
 KYRString XmlDocumentEditor::getContent(Node node) const {
   KYRString content;
   for (Node child = getFirst(node); child != noNode; child = getNext(child)) {
-    if (!isElement(child)) content += getText(child);
+    if (!isElement(child)) content += source_->getText(child);
   }
   return content;
 }
 
 const XmlDocumentEditor::AttributeRecord& XmlDocumentEditor::attributeAt(Node node,
                                                                          std::uint32_t index) const noexcept {
-  const std::uint32_t number = nodes_[node].firstAttribute + index;
+  const std::uint32_t number = heads_[node].firstAttribute + index;
   return number < sourceAttributes_ ? source_->attributes_[number] : attributes_[number - sourceAttributes_];
 }
 
@@ -87,7 +104,7 @@ const KYRString* XmlDocumentEditor::findAttribute(Node node, Name name) const no
 // The attributes of the node in the editor's own array, with room for so many more behind them.
 XmlDocumentEditor::AttributeRecord* XmlDocumentEditor::ownAttributes(Node node, std::uint32_t room) {
   isChanged_ = true;
-  Record& record = nodes_[node];
+  Head& record = heads_[node];
   const std::size_t own = attributes_.size();
   const bool isLast = record.firstAttribute + std::size_t{record.attributeCount} == sourceAttributes_ + own;
   requireRoom(sourceAttributes_ + own + record.attributeCount + room);
@@ -110,9 +127,9 @@ std::uint32_t XmlDocumentEditor::addText(std::string_view text) {
 }
 
 void XmlDocumentEditor::setName(Node node, Name name) {
-  if (nodes_[node].name == name) return;
+  if (heads_[node].name == name) return;
   isChanged_ = true;
-  nodes_[node].name = name;
+  heads_[node].name = name;
 }
 
 void XmlDocumentEditor::setAttribute(Node node, Name name, std::string_view value, std::uint32_t index) {
@@ -127,7 +144,7 @@ void XmlDocumentEditor::setAttribute(Node node, Name name, std::string_view valu
   const std::uint32_t place = std::min(index, count);
   std::copy_backward(attributes + place, attributes + count, attributes + count + 1);
   attributes[place] = {name, text};
-  ++nodes_[node].attributeCount;
+  ++heads_[node].attributeCount;
 }
 
 void XmlDocumentEditor::renameAttribute(Node node, std::uint32_t index, Name name) {
@@ -140,7 +157,7 @@ void XmlDocumentEditor::removeAttribute(Node node, Name name) {
     if (getAttributeName(node, at) != name) continue;
     AttributeRecord* const attributes = ownAttributes(node, 0);
     std::copy(attributes + at + 1, attributes + count, attributes + at);
-    --nodes_[node].attributeCount;
+    --heads_[node].attributeCount;
     return;
   }
 }
@@ -152,80 +169,99 @@ void XmlDocumentEditor::orderAttributes(Node node, const std::vector<std::uint32
 }
 
 XmlDocumentEditor::Node XmlDocumentEditor::addElement(Name name, Node origin) {
-  requireRoom(nodes_.size());
-  isChanged_ = true;
-  nodes_.push_back({name, noNode, noNode, noNode, noNode, noNode, 0, 0, nodes_[origin].origin});
+  requireRoom(heads_.size());
+  link();
+  origins_.push_back(originOf(origin));
+  links_.push_back({noNode, noNode, noNode, noNode, noNode});
+  heads_.push_back({name, 0, 0});
   return getNodeCount() - 1;
 }
 
 void XmlDocumentEditor::detach(Node node) {
-  isChanged_ = true;
-  Record& record = nodes_[node];
-  if (record.parent != noNode) {
-    Record& parent = nodes_[record.parent];
-    (record.previous == noNode ? parent.first : nodes_[record.previous].next) = record.next;
-    (record.next == noNode ? parent.last : nodes_[record.next].previous) = record.previous;
+  link();
+  Link& linked = links_[node];
+  if (linked.parent != noNode) {
+    Link& parent = links_[linked.parent];
+    (linked.previous == noNode ? parent.first : links_[linked.previous].next) = linked.next;
+    (linked.next == noNode ? parent.last : links_[linked.next].previous) = linked.previous;
   }
-  record.parent = record.next = record.previous = noNode;
+  linked.parent = linked.next = linked.previous = noNode;
 }
 
 void XmlDocumentEditor::append(Node parent, Node node) {
   detach(node);
-  Record& record = nodes_[node];
-  record.parent = parent;
-  record.previous = nodes_[parent].last;
-  (record.previous == noNode ? nodes_[parent].first : nodes_[record.previous].next) = node;
-  nodes_[parent].last = node;
+  Link& linked = links_[node];
+  linked.parent = parent;
+  linked.previous = links_[parent].last;
+  (linked.previous == noNode ? links_[parent].first : links_[linked.previous].next) = node;
+  links_[parent].last = node;
 }
 
 void XmlDocumentEditor::insertBefore(Node sibling, Node node) {
   detach(node);
-  Record& record = nodes_[node];
-  record.parent = nodes_[sibling].parent;
-  record.next = sibling;
-  record.previous = nodes_[sibling].previous;
-  (record.previous == noNode ? nodes_[record.parent].first : nodes_[record.previous].next) = node;
-  nodes_[sibling].previous = node;
+  Link& linked = links_[node];
+  linked.parent = links_[sibling].parent;
+  linked.next = sibling;
+  linked.previous = links_[sibling].previous;
+  (linked.previous == noNode ? links_[linked.parent].first : links_[linked.previous].next) = node;
+  links_[sibling].previous = node;
 }
 
 void XmlDocumentEditor::remove(Node node) {
   detach(node);
-  for (Node each = node; each != noNode; each = getFollowing(each)) nodes_[each].name = removedName;
+  for (Node each = node; each != noNode; each = getFollowing(each)) heads_[each].name = removedName;
 }
 
 std::shared_ptr<const XmlDocument> XmlDocumentEditor::build() {
   if (!isChanged_) return source_;
-  XmlDocument& result = *result_;
-  Node open = noNode;  // in the result
-  for (Node node = 0; node != noNode;) {
-    const Node copy = static_cast<Node>(result.nodes_.size());
-    copyNode(node, open);
-    if (nodes_[node].first != noNode) {
-      open = copy;
-      node = nodes_[node].first;
-      continue;
-    }
-    result.nodes_[copy].end = copy + 1;
-    while (node != noNode && nodes_[node].next == noNode) {
-      node = nodes_[node].parent;
-      if (open == noNode) continue;
-      result.nodes_[open].end = static_cast<Node>(result.nodes_.size());
-      open = result.nodes_[open].parent;
-    }
-    if (node != noNode) node = nodes_[node].next;
+  if (links_.empty()) {
+    buildAlike();
+  } else {
+    buildAnew();
   }
-  XmlDocument::NodeRecord& sentinel = result.nodes_.emplaceBack();
-  sentinel.firstAttribute = static_cast<std::uint32_t>(result.attributes_.size());
+  XmlDocument::NodeRecord& sentinel = result_->nodes_.emplaceBack();
+  sentinel.firstAttribute = static_cast<std::uint32_t>(result_->attributes_.size());
   return result_;
 }
 
-void XmlDocumentEditor::copyNode(Node node, Node open) {
-  const Record& from = nodes_[node];
-  const XmlDocument::NodeRecord& origin = source_->nodes_[from.origin];
-  result_->nodes_.emplaceBack(from.name, open, noNode,
-                              static_cast<std::uint32_t>(result_->attributes_.size()), origin.lineOrText,
-                              origin.column);
-  for (std::uint32_t index = 0; index < from.attributeCount; ++index) {
-    result_->attributes_.emplaceBack(attributeAt(node, index));
+void XmlDocumentEditor::buildAlike() {
+  for (Node node = 0; node < getNodeCount(); ++node) {
+    copyNode(node, source_->getParent(node), source_->getEnd(node));
+  }
+}
+
+void XmlDocumentEditor::buildAnew() {
+  XmlBlockArray<XmlDocument::NodeRecord>& made = result_->nodes_;
+  Node open = noNode;  // in the result
+  for (Node node = 0; node != noNode;) {
+    const Node copy = static_cast<Node>(made.size());
+    copyNode(node, open, copy + 1);
+    if (links_[node].first != noNode) {
+      open = copy;
+      node = links_[node].first;
+      continue;
+    }
+    while (node != noNode && links_[node].next == noNode) {
+      node = links_[node].parent;
+      if (open == noNode) continue;
+      made[open].end = static_cast<Node>(made.size());
+      open = made[open].parent;
+    }
+    if (node != noNode) node = links_[node].next;
+  }
+}
+
+void XmlDocumentEditor::copyNode(Node node, Node parent, Node end) {
+  const Head& head = heads_[node];
+  const XmlDocument::NodeRecord& origin = source_->nodes_[originOf(node)];
+  XmlBlockArray<AttributeRecord>& attributes = result_->attributes_;
+  result_->nodes_.emplaceBack(head.name, parent, end, static_cast<std::uint32_t>(attributes.size()),
+                              origin.lineOrText, origin.column);
+  if (head.firstAttribute < sourceAttributes_) {
+    attributes.appendFrom(source_->attributes_, head.firstAttribute, head.attributeCount);
+  } else {
+    for (std::uint32_t index = 0; index < head.attributeCount; ++index) {
+      attributes.emplaceBack(attributeAt(node, index));
+    }
   }
 }

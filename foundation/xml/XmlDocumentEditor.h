@@ -1,9 +1,9 @@
 // XmlDocumentEditor: a document that can be changed, and the new document that comes of it.
 //
-// It stands over a finished document, whose nodes keep their numbers here, and links them as a tree. Nodes
-// that are not touched still show the texts and attributes of that document, so a change costs what it
-// touches and nothing is copied before `build`. Each node of the result has the line and column of the node
-// that it comes from, so messages name places in the file as it was written.
+// It stands over a finished document, whose nodes keep their numbers here. Nodes that are not touched still
+// show the texts and attributes of that document, and as long as no node was added, moved or removed its
+// array is the tree too; the first such change links the nodes. Each node of the result has the line and
+// column of the node that it comes from, so messages name places in the file as it was written.
 #pragma once
 
 #include <cstdint>
@@ -31,26 +31,27 @@ class KYR_EXPORT XmlDocumentEditor {
   Name getNameCount() const noexcept { return result_->getNameCount(); }
 
   // Nodes. Node 0 is the root element; numbers stay when nodes are moved.
-  Node getNodeCount() const noexcept { return static_cast<Node>(nodes_.size()); }
+  Node getNodeCount() const noexcept { return static_cast<Node>(heads_.size()); }
   /// False for character data and for what was removed.
-  bool isElement(Node node) const noexcept { return nodes_[node].name < removedName; }
-  Name getName(Node node) const noexcept { return nodes_[node].name; }
-  const KYRString& getTag(Node node) const noexcept { return getNameText(nodes_[node].name); }
-  Node getParent(Node node) const noexcept { return nodes_[node].parent; }
+  bool isElement(Node node) const noexcept { return heads_[node].name < removedName; }
+  Name getName(Node node) const noexcept { return heads_[node].name; }
+  const KYRString& getTag(Node node) const noexcept { return getNameText(heads_[node].name); }
+  Node getParent(Node node) const noexcept {
+    return links_.empty() ? source_->getParent(node) : links_[node].parent;
+  }
   /// First child and next sibling, character data included; noNode when there is none.
-  Node getFirst(Node node) const noexcept { return nodes_[node].first; }
-  Node getNext(Node node) const noexcept { return nodes_[node].next; }
+  Node getFirst(Node node) const noexcept;
+  Node getNext(Node node) const noexcept;
   /// The node that follows in document order, or noNode; `getBehind` passes over the node's children.
   Node getFollowing(Node node) const noexcept;
   Node getBehind(Node node) const noexcept;
-  const KYRString& getText(Node node) const noexcept { return source_->getText(nodes_[node].origin); }
   /// The characters directly inside an element, concatenated.
   KYRString getContent(Node node) const;
-  std::uint32_t getLine(Node node) const noexcept { return source_->getLine(nodes_[node].origin); }
-  std::uint32_t getColumn(Node node) const noexcept { return source_->getColumn(nodes_[node].origin); }
+  std::uint32_t getLine(Node node) const noexcept { return source_->getLine(originOf(node)); }
+  std::uint32_t getColumn(Node node) const noexcept { return source_->getColumn(originOf(node)); }
 
   // Attributes, by position.
-  std::uint32_t getAttributeCount(Node node) const noexcept { return nodes_[node].attributeCount; }
+  std::uint32_t getAttributeCount(Node node) const noexcept { return heads_[node].attributeCount; }
   Name getAttributeName(Node node, std::uint32_t index) const noexcept {
     return attributeAt(node, index).name;
   }
@@ -89,28 +90,36 @@ class KYR_EXPORT XmlDocumentEditor {
   using AttributeRecord = XmlDocument::AttributeRecord;
   static constexpr Name removedName = XmlDocument::textName - 1;
 
-  struct Record {
+  struct Head {
     Name name;
+    std::uint32_t firstAttribute;  // in the source's attributes, or behind those in `attributes_`
+    std::uint32_t attributeCount;
+  };
+  struct Link {
     Node parent;
     Node first;
     Node last;
     Node next;
     Node previous;
-    std::uint32_t firstAttribute;  // in the source's attributes, or behind those in `attributes_`
-    std::uint32_t attributeCount;
-    Node origin;
   };
 
   const AttributeRecord& attributeAt(Node node, std::uint32_t index) const noexcept;
   AttributeRecord* ownAttributes(Node node, std::uint32_t room);
   std::uint32_t addText(std::string_view text);
+  Node originOf(Node node) const noexcept {
+    return node < source_->getNodeCount() ? node : origins_[node - source_->getNodeCount()];
+  }
   void link();
   void detach(Node node);
-  void copyNode(Node node, Node open);
+  void buildAlike();
+  void buildAnew();
+  void copyNode(Node node, Node parent, Node end);
 
   std::shared_ptr<const XmlDocument> source_;
   std::shared_ptr<XmlDocument> result_;  // from the start it holds all names and texts
-  std::vector<Record> nodes_;
+  std::vector<Head> heads_;
+  std::vector<Link> links_;                  // empty as long as the tree is that of the source
+  std::vector<Node> origins_;                // of added nodes
   std::vector<AttributeRecord> attributes_;  // of the elements whose attributes were changed
   std::uint32_t sourceAttributes_;
   bool isChanged_ = false;

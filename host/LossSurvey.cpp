@@ -1,0 +1,65 @@
+// The second reading, with a reader of the command's own: the plug-in's rows keep what they have seen.
+#include "host/LossSurvey.h"
+
+#include "foundation/KYRException.h"
+#include "foundation/KYRLog.h"
+#include "host/ArrivalCount.h"
+#include "host/NormalizeSummary.h"
+#include "normalize/Normalizer.h"
+#include "xmi/XMIParser.h"
+
+namespace {
+
+// Its import has said all there is to say of the file.
+class Silence final : public KYRLog {
+ public:
+  void log(const KYRLogEvent&) override {}
+};
+
+class Replacement final : public XmlRewriter {
+ public:
+  explicit Replacement(std::shared_ptr<const XmlDocument> document) : document_(std::move(document)) {}
+  std::shared_ptr<const XmlDocument> rewrite(const std::shared_ptr<const XmlDocument>&) override {
+    return document_;
+  }
+
+ private:
+  std::shared_ptr<const XmlDocument> document_;
+};
+
+std::uint64_t missing(std::uint64_t expected, std::uint64_t found) {
+  return expected > found ? expected - found : 0;
+}
+
+}  // namespace
+
+std::shared_ptr<const XmlDocument> LossSurvey::rewrite(const std::shared_ptr<const XmlDocument>& document) {
+  document_ = document;
+  return document;
+}
+
+std::optional<LossSurvey::Loss> LossSurvey::compare(const KYRFile& file, const SavedModelCounts& saved,
+                                                    bool hasRootPackage) {
+  if (!document_) return std::nullopt;
+  Normalizer normalizer(std::string(file.getFileName().view()));
+  Replacement replacement(normalizer.rewrite(document_));
+  if (!normalizer.getReport().matters()) return std::nullopt;
+  try {
+    const XmlRewriting rewriting(file, replacement);
+    Silence silence;
+    XMIParser parser(&silence);
+    UMLModel* const model = parser.parse(file);
+    if (model == nullptr) return std::nullopt;
+    const ArrivalCount arrival(*model, hasRootPackage);
+    Loss loss;
+    loss.classes = missing(arrival.classes, saved.classes + saved.interfaces);
+    loss.attributes = missing(arrival.attributes, saved.attributes);
+    loss.associations = missing(arrival.associations, saved.associations);
+    if (loss.classes + loss.attributes + loss.associations == 0) return std::nullopt;
+    loss.reasons = NormalizeSummary::describeReasons(normalizer.getReport());
+    return loss;
+  } catch (const KYRException&) {
+    // The import has succeeded; a file that has changed since then takes nothing from that.
+    return std::nullopt;
+  }
+}

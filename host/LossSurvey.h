@@ -1,0 +1,34 @@
+// LossSurvey: what an import without the normalising step has lost for the way in which the file is written.
+//
+// It watches the parse of the import and keeps the document. Afterwards the rules tell whether they would
+// have changed anything that matters; only then the file is read once more, in memory, as the step hands it
+// on, and what would have arrived is compared with what has.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "foundation/KYRFile.h"
+#include "foundation/xml/XmlRewriting.h"
+#include "host/SavedModelCounts.h"
+
+class LossSurvey final : public XmlRewriter {
+ public:
+  struct Loss {
+    std::uint64_t classes = 0;
+    std::uint64_t attributes = 0;
+    std::uint64_t associations = 0;
+    std::string reasons;
+  };
+
+  std::shared_ptr<const XmlDocument> rewrite(const std::shared_ptr<const XmlDocument>& document) override;
+  bool watchesOnly() const noexcept override { return true; }
+
+  /// What is missing in a saved model of the watched file; nothing when no rule would have helped.
+  std::optional<Loss> compare(const KYRFile& file, const SavedModelCounts& saved, bool hasRootPackage);
+
+ private:
+  std::shared_ptr<const XmlDocument> document_;
+};

@@ -1,0 +1,134 @@
+// The step as a whole: what it leaves alone, the order of its rules, positions, and what it costs.
+#include "normalize/Normalizer.h"
+
+#include "foundation/KYRDOM.h"
+#include "normalize/AttributeOrderRule.h"
+#include "normalize/DeclaredTypeRule.h"
+#include "normalize/ScalarElementRule.h"
+#include "tests/normalize/NormalizedFile.h"
+#include "xmi/XMIParser.h"
+
+namespace {
+
+TEST(Normalizer, ADocumentThatNoRuleChangesIsHandedOnAsItIs) {
+  const std::shared_ptr<const XmlDocument> document =
+      documentOf(xmi(element("Package", "xmi:id='p' name='P'", element("Class", "xmi:id='c' name='C'"))));
+  Normalizer normalizer(fileName);
+  EXPECT_EQ(normalizer.rewrite(document), document);
+  EXPECT_FALSE(normalizer.getReport().hasFired());
+}
+
+TEST(Normalizer, AFileOfXmi1StaysAsItIs) {
+  const std::string text =
+      "<XMI xmi.version='1.1' xmlns:UML='http://www.omg.org/spec/UML/20131001'><XMI.content>"
+      "<uml:Model><uml:Model/></uml:Model><uml:Package/></XMI.content></XMI>";
+  NormalizeReport report;
+  EXPECT_EQ(normalized(text, &report), plain(text));
+  EXPECT_FALSE(report.hasFired());
+}
+
+TEST(Normalizer, WhatIsNoModelStaysAsItIs) {
+  for (const char* text : {"<shop/>", "<a><b xmi:type='uml:Port' xmi:idref='x'/></a>", "<xmi:XMI/>"}) {
+    SCOPED_TRACE(text);
+    EXPECT_EQ(normalized(text), plain(text));
+  }
+}
+
+TEST(Normalizer, AllTextsPrefixesAndAttributesThatNoRuleNamesAreKept) {
+  const std::string text =
+      xmi(element("Class", "xmi:id='c' name='C' tool:colour='a &amp; b' xmi:uuid='u'",
+                  "\n text <!-- gone --> more <tool:note xmlns:tool='urn:t' tool:x='1'>\xC3\xA9</tool:note>"
+                  "<ownedAttribute xmi:id='a'/>"));
+  const std::string changed = normalized(text);
+  std::string expected = plain(text);
+  const std::string untyped = "<ownedAttribute xmi:id";
+  expected.replace(expected.find(untyped), untyped.size(),
+                   "<ownedAttribute xmi:type=\"uml:Property\" xmi:id");
+  EXPECT_EQ(changed, expected);
+}
+
+TEST(Normalizer, ASecondStepFindsNothingMoreToDo) {
+  const std::string once = normalized(
+      "<x:XMI xmlns:x='http://www.omg.org/spec/XMI/20131001' xmlns:u='http://www.omg.org/spec/UML/20131001'>"
+      "<u:Package><name>P</name><ownedType xsi:type='u:Class'><name>name</name><ownedPort x:id='q' "
+      "name='xmi:id'>"
+      "<type xsi:type='u:Class' href='#q'/></ownedPort></ownedType></u:Package><u:Model name='M'/></x:XMI>");
+  NormalizeReport report;
+  EXPECT_EQ(normalized(once, &report), once);
+  EXPECT_FALSE(report.hasFired());
+}
+
+TEST(Normalizer, LaterRulesSeeWhatEarlierOnesHaveDone) {
+  // The prefix, the type attribute, the root and the name as an element, all in one file.
+  const std::string text =
+      "<xmi:XMI xmlns:xmi='http://www.omg.org/XMI' xmlns:UML='http://www.eclipse.org/uml2/5.0.0/UML'>"
+      "<UML:Package xmi:id='p'><name>P</name><packagedElement xsi:type='UML:Class' xmi:id='c'><name>C</name>"
+      "</packagedElement></UML:Package><UML:Class xmi:id='d' name='D'/></xmi:XMI>";
+  DispatchRows::resetForTests();
+  const ImportedModel model(normalized(text));
+  EXPECT_EQ(model.pathOf("c"), "Logical View/P/C");
+  EXPECT_EQ(model.pathOf("d"), "Logical View/D");
+  EXPECT_EQ(model.model.getName().view(), fileName);
+}
+
+// Reads a file as a host that has the step installed.
+class Installed {
+ public:
+  explicit Installed(const std::string& text)
+      : file(text), normalizer(fileName), rewriting(file.file(), normalizer) {}
+  TemporaryFile file;
+  Normalizer normalizer;
+  XmlRewriting rewriting;
+};
+
+TEST(Normalizer, PositionsInMessagesAreThoseOfTheFileAsWritten) {
+  DispatchRows::resetForTests();
+  const Installed installed(
+      "<xmi:XMI><uml:Package xmi:id='p'>\n  <oddity/></uml:Package>\n<uml:Model xmi:id='m'/></xmi:XMI>");
+  RecordingLog log;
+  XMIParser parser(&log);
+  parser.parse(installed.file.file());
+  EXPECT_EQ(installed.normalizer.getReport().of(NormalizeRule::roots).fired, 1U);
+  EXPECT_EQ(log.countOf("KBI_UML2XMI_W0001 line 2, column 3 "), 1U);
+}
+
+TEST(Normalizer, StreamAndTreesReadTheSame) {
+  DispatchRows::resetForTests();
+  const Installed installed("<xmi:XMI><uml:Package xmi:id='p'/><uml:Package xmi:id='q'/></xmi:XMI>");
+  RecordingLog log;
+  XMIParser parser(&log);
+  parser.parse(installed.file.file());
+  KYRDOM dom(&log);
+  const std::unique_ptr<KYRDOMElement> root(dom.parseFile(installed.file.file()));
+  ASSERT_NE(root->getFirstElement("uml:Model"), nullptr);
+  EXPECT_EQ(root->getFirstElement("uml:Model")->getElementCount("packagedElement"), 2);
+  EXPECT_EQ(parser.getObjects().getCount(), 3U);
+}
+
+// Visited elements, for files of a shape: n elements, or twice as many.
+std::uint64_t stepsFor(const std::string& shape, int count) {
+  std::string elements;
+  for (int i = 0; i < count; ++i) elements += shape;
+  NormalizeReport report;
+  NormalizedDocument document(documentOf(xmi(elements)), fileName, report);
+  document.findRegions();
+  IdRule().apply(document);
+  ScalarElementRule().apply(document);
+  DeclaredTypeRule().apply(document);
+  AttributeOrderRule().apply(document);
+  return document.getStepCount();
+}
+
+TEST(Normalizer, TheCostIsLinear) {
+  for (const char* shape :
+       {"<packagedElement xmi:type='uml:Class'><name>C</name><ownedAttribute/></packagedElement>",
+        "<packagedElement xmi:type='uml:Class' xmi:id='c' name='visibility' visibility='name'/>",
+        "<packagedElement xmi:type='uml:Class' xmi:id='c'><packagedElement xmi:type='uml:Class' xmi:id='c'/>"
+        "</packagedElement>"}) {
+    SCOPED_TRACE(shape);
+    const std::uint64_t once = stepsFor(shape, 500);
+    EXPECT_LE(stepsFor(shape, 1000), 2 * once + 10);
+  }
+}
+
+}  // namespace
