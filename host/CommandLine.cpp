@@ -48,6 +48,8 @@ int perform(const CommandRequest& request, Tools& tools) {
     case Kind::diagram:
       DiagramCommand(request.diagram, tools.output).run();
       return ExitCode::done;
+    case Kind::diff:
+      return DiffCommand(request.diff, tools.output).run();
     case Kind::answer:
       tools.output.write(request.text);
       return ExitCode::done;
@@ -57,6 +59,10 @@ int perform(const CommandRequest& request, Tools& tools) {
   tools.log.fail(
       KYRHostMessages::WRONG_USAGE.getMessage(KYRString(request.text), KYRString(request.command)));
   return ExitCode::wrongUsage;
+}
+
+int failureCode(const CommandRequest& request) {
+  return request.kind == Kind::diff ? ExitCode::cannotCompare : ExitCode::failed;
 }
 
 int performSafely(const CommandRequest& request, Tools& tools) {
@@ -71,7 +77,7 @@ int performSafely(const CommandRequest& request, Tools& tools) {
   } catch (...) {
     tools.log.fail(KYRHostMessages::UNEXPECTED_ERROR.getMessage(KYRString()));
   }
-  return ExitCode::failed;
+  return failureCode(request);
 }
 
 // Where the output is the result, a command that cannot write it has failed. The result of an import
@@ -81,7 +87,7 @@ int finish(const CommandRequest& request, Tools& tools, int code) {
   const int error = tools.output.getError();
   if (error != 0) {
     tools.log.fail(KYRHostMessages::CANNOT_WRITE_OUTPUT.getMessage(KYRString(std::strerror(error))));
-    if (request.kind != Kind::import) code = ExitCode::failed;
+    if (request.kind != Kind::import) code = failureCode(request);
   }
   tools.log.finish();
   return code;

@@ -40,6 +40,7 @@ class Definition {
   void defineInfo();
   void defineInspect();
   void defineDiagram();
+  void defineDiff();
   static void addPlugin(CLI::App& command, std::string& path);
   void addEncoding(CLI::App& command);
 
@@ -59,6 +60,7 @@ Definition::Definition(CommandRequest& request)
   defineInfo();
   defineInspect();
   defineDiagram();
+  defineDiff();
 }
 
 CLI::App& Definition::addCommand(const char* name, const HostText<0>& help, const HostText<0>& examples) {
@@ -135,6 +137,14 @@ void Definition::defineDiagram() {
   command.add_option("-o,--output", settings.folder, textOf(DIAGRAM_HELP_OUTPUT))->type_name("FOLDER");
 }
 
+void Definition::defineDiff() {
+  using namespace KYRHostTexts;
+  CLI::App& command = addCommand("diff", DIFF_HELP, DIFF_HELP_EXAMPLES);
+  command.add_option("OLD", request_.diff.before, textOf(DIFF_HELP_OLD))->required()->type_name("");
+  command.add_option("NEW", request_.diff.after, textOf(DIFF_HELP_NEW))->required()->type_name("");
+  command.add_flag("--json", request_.diff.isJson, textOf(DIFF_HELP_JSON));
+}
+
 void Definition::addPlugin(CLI::App& command, std::string& path) {
   command.add_option("--plugin", path, textOf(KYRHostTexts::HELP_PLUGIN))->type_name("PATH");
 }
@@ -165,6 +175,7 @@ void Definition::read(int argumentCount, const char* const* arguments) {
   request_.kind = app_.got_subcommand("import")    ? Kind::import
                   : app_.got_subcommand("info")    ? Kind::info
                   : app_.got_subcommand("diagram") ? Kind::diagram
+                  : app_.got_subcommand("diff")    ? Kind::diff
                                                    : Kind::inspect;
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "host/DiagramCommand.h"
+#include "host/DiffCommand.h"
 #include "host/ImportCommand.h"
 #include "host/InfoCommand.h"
 #include "host/InspectCommand.h"
@@ -14,6 +15,7 @@ struct CommandRequest {
     info,
     inspect,
     diagram,
+    diff,
     answer,      // help or version: `text` is to be printed
     wrongUsage,  // `text` says why, and `command` which words were understood
   };
@@ -23,6 +25,7 @@ struct CommandRequest {
   InfoCommand::Settings info;
   InspectCommand::Settings inspect;
   DiagramCommand::Settings diagram;
+  DiffCommand::Settings diff;
   std::string encoding;  // empty: as each file says
   std::string text;
   std::string command;  // "kyr", "kyr import"
