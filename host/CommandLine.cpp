@@ -50,6 +50,8 @@ int perform(const CommandRequest& request, Tools& tools) {
       return ExitCode::done;
     case Kind::normalize:
       return NormalizeCommand(request.normalize, tools.output, tools.log).run();
+    case Kind::diff:
+      return DiffCommand(request.diff, tools.output).run();
     case Kind::answer:
       tools.output.write(request.text);
       return ExitCode::done;
@@ -59,6 +61,10 @@ int perform(const CommandRequest& request, Tools& tools) {
   tools.log.fail(
       KYRHostMessages::WRONG_USAGE.getMessage(KYRString(request.text), KYRString(request.command)));
   return ExitCode::wrongUsage;
+}
+
+int failureCode(const CommandRequest& request) {
+  return request.kind == Kind::diff ? ExitCode::cannotCompare : ExitCode::failed;
 }
 
 int performSafely(const CommandRequest& request, Tools& tools) {
@@ -73,7 +79,7 @@ int performSafely(const CommandRequest& request, Tools& tools) {
   } catch (...) {
     tools.log.fail(KYRHostMessages::UNEXPECTED_ERROR.getMessage(KYRString()));
   }
-  return ExitCode::failed;
+  return failureCode(request);
 }
 
 // Where the output is the result, a command that cannot write it has failed. The result of an import
@@ -83,7 +89,7 @@ int finish(const CommandRequest& request, Tools& tools, int code) {
   const int error = tools.output.getError();
   if (error != 0) {
     tools.log.fail(KYRHostMessages::CANNOT_WRITE_OUTPUT.getMessage(KYRString(std::strerror(error))));
-    if (request.kind != Kind::import) code = ExitCode::failed;
+    if (request.kind != Kind::import) code = failureCode(request);
   }
   tools.log.finish();
   return code;

@@ -52,6 +52,7 @@ class Definition {
   void defineInfo();
   void defineInspect();
   void defineDiagram();
+  void defineDiff();
   void defineNormalize();
   static void addNormalize(CLI::App& command, NormalizeChoice& choice);
   static CLI::Option& addPlugin(CLI::App& command, std::string& path);
@@ -73,6 +74,7 @@ Definition::Definition(CommandRequest& request)
   defineInfo();
   defineInspect();
   defineDiagram();
+  defineDiff();
   defineNormalize();
 }
 
@@ -159,6 +161,14 @@ void Definition::defineDiagram() {
   command.add_option("-o,--output", settings.folder, textOf(DIAGRAM_HELP_OUTPUT))->type_name("FOLDER");
 }
 
+void Definition::defineDiff() {
+  using namespace KYRHostTexts;
+  CLI::App& command = addCommand("diff", DIFF_HELP, DIFF_HELP_EXAMPLES);
+  command.add_option("OLD", request_.diff.before, textOf(DIFF_HELP_OLD))->required()->type_name("");
+  command.add_option("NEW", request_.diff.after, textOf(DIFF_HELP_NEW))->required()->type_name("");
+  command.add_flag("--json", request_.diff.isJson, textOf(DIFF_HELP_JSON));
+}
+
 void Definition::defineNormalize() {
   using namespace KYRHostTexts;
   CLI::App& command = addCommand("normalize", NORMALIZE_HELP, NORMALIZE_HELP_EXAMPLES);
@@ -206,6 +216,7 @@ void Definition::read(int argumentCount, const char* const* arguments) {
   }
   using Kind = CommandRequest::Kind;
   request_.kind = app_.got_subcommand("import")      ? Kind::import
+                  : app_.got_subcommand("diff")      ? Kind::diff
                   : app_.got_subcommand("info")      ? Kind::info
                   : app_.got_subcommand("diagram")   ? Kind::diagram
                   : app_.got_subcommand("normalize") ? Kind::normalize

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "host/DiagramCommand.h"
+#include "host/DiffCommand.h"
 #include "host/ImportCommand.h"
 #include "host/InfoCommand.h"
 #include "host/InspectCommand.h"
@@ -16,6 +17,7 @@ struct CommandRequest {
     inspect,
     diagram,
     normalize,
+    diff,
     answer,      // help or version: `text` is to be printed
     wrongUsage,  // `text` says why, and `command` which words were understood
   };
@@ -26,6 +28,7 @@ struct CommandRequest {
   InspectCommand::Settings inspect;
   DiagramCommand::Settings diagram;
   NormalizeCommand::Settings normalize;
+  DiffCommand::Settings diff;
   std::string encoding;  // empty: as each file says
   std::string text;
   std::string command;  // "kyr", "kyr import"

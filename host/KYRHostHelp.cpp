@@ -146,4 +146,22 @@ const HostText<0> HELP_NORMALIZE(
     "own way are not lost. --normalize=all also brings in nested profiles, components and nodes, and "
     "classifiers inside classes");
 
+const HostText<0> DIFF_HELP(
+    "DIFF_HELP",
+    "Tell what has changed from one saved model to another.\n"
+    "\n"
+    "OLD and NEW are JSON files that 'kyr import' has written. Objects are matched by their\n"
+    "ids in the source file, then by their names. Listed are removed, added, renamed and\n"
+    "moved objects, and changed ones with old and new values. When a model was imported and\n"
+    "from where is not compared.\n"
+    "\n"
+    "Exit codes: 0 equal, 1 different, 2 failed.");
+const HostText<0> DIFF_HELP_EXAMPLES("DIFF_HELP_EXAMPLES",
+                                     "Examples:\n"
+                                     "  kyr diff shop.v1.json shop.v2.json\n"
+                                     "  kyr diff shop.v1.json shop.v2.json --json");
+const HostText<0> DIFF_HELP_OLD("DIFF_HELP_OLD", "The saved model to start from");
+const HostText<0> DIFF_HELP_NEW("DIFF_HELP_NEW", "The saved model to compare with it");
+const HostText<0> DIFF_HELP_JSON("DIFF_HELP_JSON", "Print one JSON object");
+
 }  // namespace KYRHostTexts

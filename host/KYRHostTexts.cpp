@@ -20,6 +20,21 @@ const HostText<2> SUMMARY_PHASE("SUMMARY_PHASE", "{0} s  {1}");
 
 const HostText<1> DIAGRAM_WRITTEN("DIAGRAM_WRITTEN", "Wrote '{0}'");
 
+const HostText<0> DIFF_EQUAL("DIFF_EQUAL", "The models are equal");
+const HostText<2> DIFF_REMOVED("DIFF_REMOVED", "removed {0} {1}");
+const HostText<3> DIFF_REMOVED_WITH("DIFF_REMOVED_WITH", "removed {0} {1} (objects inside: {2})");
+const HostText<2> DIFF_ADDED("DIFF_ADDED", "added {0} {1}");
+const HostText<3> DIFF_ADDED_WITH("DIFF_ADDED_WITH", "added {0} {1} (objects inside: {2})");
+const HostText<4> DIFF_RENAMED("DIFF_RENAMED", "renamed {0} {1}: {2} -> {3}");
+const HostText<4> DIFF_MOVED("DIFF_MOVED", "moved {0} {1}: {2} -> {3}");
+const HostText<2> DIFF_CHANGED("DIFF_CHANGED", "changed {0} {1}");
+const HostText<3> DIFF_FIELD("DIFF_FIELD", "  {0}: {1} -> {2}");
+const HostText<3> DIFF_PROPERTY("DIFF_PROPERTY", "  property '{0}': {1} -> {2}");
+const HostText<0> DIFF_NOTHING("DIFF_NOTHING", "nothing");
+const HostText<0> DIFF_YES("DIFF_YES", "yes");
+const HostText<0> DIFF_NO("DIFF_NO", "no");
+const HostText<5> DIFF_SUMMARY("DIFF_SUMMARY", "{0} removed, {1} added, {2} renamed, {3} moved, {4} changed");
+
 const HostText<1> INFO_VERSION("INFO_VERSION", "Version:      {0}");
 const HostText<1> INFO_PLUGIN("INFO_PLUGIN", "Plug-in:      {0}");
 const HostText<1> INFO_TOOL("INFO_TOOL", "Tool:         {0}");

@@ -55,6 +55,12 @@ extern const HostText<0> NORMALIZE_HELP_OUTPUT;
 extern const HostText<0> NORMALIZE_HELP_ALL;
 extern const HostText<0> HELP_NORMALIZE;
 
+extern const HostText<0> DIFF_HELP;
+extern const HostText<0> DIFF_HELP_EXAMPLES;
+extern const HostText<0> DIFF_HELP_OLD;
+extern const HostText<0> DIFF_HELP_NEW;
+extern const HostText<0> DIFF_HELP_JSON;
+
 /// The version of the command itself.
 extern const HostText<1> VERSION;
 
@@ -110,6 +116,22 @@ extern const HostText<0> REASON_ATTRIBUTE_ORDER;
 
 /// One line of `kyr diagram` for each picture.
 extern const HostText<1> DIAGRAM_WRITTEN;
+
+// The lines of `kyr diff`.
+extern const HostText<0> DIFF_EQUAL;
+extern const HostText<2> DIFF_REMOVED;
+extern const HostText<3> DIFF_REMOVED_WITH;
+extern const HostText<2> DIFF_ADDED;
+extern const HostText<3> DIFF_ADDED_WITH;
+extern const HostText<4> DIFF_RENAMED;
+extern const HostText<4> DIFF_MOVED;
+extern const HostText<2> DIFF_CHANGED;
+extern const HostText<3> DIFF_FIELD;
+extern const HostText<3> DIFF_PROPERTY;
+extern const HostText<0> DIFF_NOTHING;
+extern const HostText<0> DIFF_YES;
+extern const HostText<0> DIFF_NO;
+extern const HostText<5> DIFF_SUMMARY;
 
 // The report of `kyr info`.
 extern const HostText<1> INFO_VERSION;

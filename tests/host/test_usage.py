@@ -76,7 +76,7 @@ class WrongUsage(CommandTest):
 
 class Help(CommandTest):
     def test_help_goes_to_the_standard_output_and_has_an_example(self):
-        for command in ([], ["import"], ["info"], ["inspect"]):
+        for command in ([], ["import"], ["info"], ["inspect"], ["diff"]):
             with self.subTest(command=command):
                 result = self.kyr(*command, "--help")
                 self.assertEqual((result.code, result.errors), (DONE, ""))
@@ -98,7 +98,7 @@ class Help(CommandTest):
 
     def test_the_documentation_has_every_option(self):
         page = (pathlib.Path(__file__).parents[2] / "docs" / "command-line.md").read_text(encoding="utf-8")
-        for command in ("import", "info", "inspect", "diagram"):
+        for command in ("import", "info", "inspect", "diagram", "diff"):
             section = page.split(f"## kyr {command}\n")[1].split("\n## ")[0]
             for option in re.findall(r"--[a-z-]+", self.kyr(command, "--help").output.split("Examples")[0]):
                 if option != "--help":
@@ -106,7 +106,7 @@ class Help(CommandTest):
 
     def test_the_list_of_commands_has_one_line_for_each(self):
         lines = self.kyr("--help").output.splitlines()
-        for command in ("import", "info", "inspect", "diagram"):
+        for command in ("import", "info", "inspect", "diagram", "diff"):
             self.assertEqual(sum(line.startswith(f"  {command} ") for line in lines), 1)
 
     def test_the_version_is_that_of_the_plug_in(self):
