@@ -40,6 +40,22 @@ TEST(AssociationClasses, ANamedOneIsAClassAndAnAssociation) {
   EXPECT_EQ(object.getAttributeCount(), 1);
 }
 
+TEST(AssociationClasses, NameAndDocumentationAreThoseOfTheClassAlone) {
+  const ImportedModel imported(xmi(
+      element("Package", "xmi:id='p' name='P'",
+              element("Class", "xmi:id='c' name='C'") +
+                  element("AssociationClass", "xmi:id='ac' name='Link'",
+                          "<ownedEnd xmi:type='uml:Property' xmi:id='x' type='c' aggregation='composite'/>"
+                          "<ownedEnd xmi:type='uml:Property' xmi:id='y' type='c'/>") +
+                  commentOn("ac", "Ties them"))));
+  EXPECT_EQ(text(imported.get<KYRClass>("ac").description), "Ties them");
+  const KYRAssociation& association = imported.get<KYRAssociation>("ac_ASSOCIATION");
+  EXPECT_EQ(text(association.description), "");
+  EXPECT_EQ(text(association.getName()), "");
+  EXPECT_TRUE(association.isComposite);
+  EXPECT_TRUE(association.roles[0]->isSource);
+}
+
 TEST(AssociationClasses, ANamelessOneIsNamedAfterTheClassesAtItsOwnedEnds) {
   const ImportedModel imported(inPackage(element("AssociationClass", "xmi:id='ac'", ends)));
   EXPECT_EQ(imported.pathOf("ac"), "P/Customer Order");

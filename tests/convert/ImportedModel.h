@@ -32,6 +32,12 @@ inline std::string element(const std::string& type, const std::string& attribute
   return "<packagedElement xmi:type='uml:" + type + "' " + attributes + ">" + content + "</packagedElement>";
 }
 
+/// A comment on the element of that id, which is its documentation when it is the only one.
+inline std::string commentOn(const std::string& id, const std::string& body) {
+  return "<ownedComment xmi:type='uml:Comment' xmi:id='k" + id + "' body='" + body +
+         "'><annotatedElement xmi:idref='" + id + "'/></ownedComment>";
+}
+
 /// A log that calls back at each message, while the bridge is at work.
 class WatchingLog : public RecordingLog {
  public:

@@ -84,6 +84,39 @@ TEST(Relations, ASetNamesTheGeneralizationAndGivesItAnId) {
   EXPECT_EQ(generalizations[0]->subtypeRoles.count(), 2U);
 }
 
+TEST(Relations, TheFirstEdgeOrItsSetDocumentsTheGeneralization) {
+  const std::string edges = subclass("s1", edge("xmi:id='g1' general='base'")) +
+                            subclass("s2", edge("xmi:id='g2' general='base' generalizationSet='set1'")) +
+                            base + element("GeneralizationSet", "xmi:id='set1' name='First'") +
+                            commentOn("g1", "Of the edge") + commentOn("g2", "Of the other edge") +
+                            commentOn("set1", "Of the set");
+  const ImportedModel byEdge(inPackage(edges));
+  EXPECT_EQ(text(byEdge.all<KYRGeneralization>().at(0)->description), "Of the edge");
+  EXPECT_EQ(text(byEdge.all<KYRGeneralization>().at(0)->getName()), "");
+  EXPECT_FALSE(byEdge.has("set1"));
+  const ImportedModel bySet(
+      inPackage(subclass("s0", edge("xmi:id='g0' general='base' generalizationSet='set1'")) + edges));
+  EXPECT_EQ(text(bySet.all<KYRGeneralization>().at(0)->description), "Of the set");
+  for (const char* id : {"g0", "g1", "g2"}) EXPECT_EQ(text(bySet.get<KYRObject>(id).description), "") << id;
+}
+
+TEST(Relations, RealizationsAndDependenciesBringTheirDocumentationAlong) {
+  const ImportedModel imported(inPackage(
+      three +
+      element("Class", "xmi:id='c' name='C'",
+              "<interfaceRealization xmi:type='uml:InterfaceRealization' xmi:id='r'>"
+              "<supplier xmi:idref='i'/><client xmi:idref='c'/><client xmi:idref='c1'/>"
+              "</interfaceRealization>") +
+      element("Dependency", "xmi:id='d' supplier='c1'", "<client xmi:idref='c'/><client xmi:idref='c2'/>") +
+      commentOn("r", "Offers") + commentOn("d", "Needs")));
+  EXPECT_EQ(text(imported.get<KYRRealization>("r").description), "Offers");
+  EXPECT_EQ(text(imported.get<KYRRealization>("r").getName()), "");
+  EXPECT_EQ(imported.get<KYRRealization>("r").specificationClass, &imported.get<KYRClass>("c"));
+  EXPECT_EQ(text(imported.get<KYRDependency>("d").description), "Needs");
+  EXPECT_EQ(text(imported.get<KYRDependency>("d").getName()), "");
+  EXPECT_EQ(imported.get<KYRDependency>("d").clientClass, &imported.get<KYRClass>("c"));
+}
+
 TEST_F(Generalizations, ASecondEdgeBetweenTheSameClassesRenamesTheirRole) {
   UMLGeneralization first("g1", "");
   UMLGeneralization second("g2", "");

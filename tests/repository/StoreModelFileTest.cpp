@@ -53,6 +53,19 @@ TEST_F(StoreModelFile, TheFormatIsTheOneOfTheGoldenFile) {
   EXPECT_EQ(save(*makeFullModel()), read(golden));
 }
 
+// The golden files of the samples, with keys, schemas, diagrams and all, as imports write them.
+TEST_F(StoreModelFile, TheModelsOfAllSamplesComeBackByteForByte) {
+  std::size_t count = 0;
+  for (const auto& entry :
+       std::filesystem::recursive_directory_iterator(KYR_SOURCE_DIR "/tests/samples/golden")) {
+    if (entry.path().extension() != ".json") continue;
+    ++count;
+    const std::string golden = entry.path().string();
+    EXPECT_EQ(save(*loadStoreModel(KYRFile(golden.c_str()))), read(golden)) << golden;
+  }
+  EXPECT_GT(count, 0U);
+}
+
 TEST_F(StoreModelFile, TheExampleOfTheDocumentationIsASavedModel) {
   const std::string page = read(KYR_SOURCE_DIR "/docs/saved-format.md");
   const std::string fence = "```json\n";
