@@ -1,6 +1,7 @@
 // Two keys with equal hash and length are nearly always the same chain: then the ids are equal and so
 // are the records above, which takes one comparison. Only keys that spell the same text with other
-// pieces are compared piece by piece.
+// pieces are compared piece by piece, and no further than to where both are known to go on alike: a file
+// made of such keys would cost its depth for each element otherwise.
 #include "extension/ElementIndex.h"
 
 #include <algorithm>
@@ -16,28 +17,73 @@ const KYRString& blank() {
   return text;
 }
 
+// Walks no longer than this are not remembered, so that ordinary files pay nothing.
+constexpr std::size_t longWalk = 32;
+
+// Added to the numbers of keys that have no record.
+constexpr std::uint64_t ofElement = std::uint64_t{1} << 32;
+constexpr std::uint64_t ofObject = std::uint64_t{2} << 32;
+
+}  // namespace
+
 // The pieces of an object's key, from the object up.
-class ObjectChain {
+class ElementIndex::ObjectChain {
  public:
-  explicit ObjectChain(const UMLElement* object) noexcept : object_(object) {}
+  ObjectChain(const ElementIndex& index, const UMLElement* object) noexcept
+      : index_(index), object_(object) {}
   bool atEnd() const noexcept { return object_ == nullptr; }
   std::string_view piece() const noexcept {
     return object_->id.isEmpty() ? blank().view() : object_->id.view();
   }
+  // The same for all keys that are known to be one text, however it is cut.
+  std::uint64_t key() const noexcept {
+    const Number record = index_.knownOf(*object_).record;
+    return record != none ? record : ofObject + object_->readingNumber;
+  }
   void next() noexcept { object_ = object_->owner; }
 
  private:
+  const ElementIndex& index_;
   const UMLElement* object_;
 };
 
-}  // namespace
+// The pieces of an element's key, from the element up.
+class ElementIndex::ElementChain {
+ public:
+  ElementChain(const ElementIndex& index, XmlDocument::Node node) noexcept : index_(index), node_(node) {}
+  bool atEnd() const noexcept { return node_ == XmlDocument::noNode; }
+  std::string_view piece() const { return index_.pieceOf(node_).view(); }
+  std::uint64_t key() const noexcept {
+    const Number record = index_.recordOf_[node_];
+    return record != none ? record : ofElement + node_;
+  }
+  void next() noexcept {
+    node_ = index_.endsChain(node_) ? XmlDocument::noNode : index_.document_.getParent(node_);
+  }
+
+ private:
+  const ElementIndex& index_;
+  XmlDocument::Node node_;
+};
+
+std::size_t ElementIndex::PlacesHash::operator()(const Places& places) const noexcept {
+  constexpr std::uint64_t factor = 0x9E3779B97F4A7C15;
+  std::uint64_t hash = 0;
+  for (const std::uint64_t part : {places.first.key, std::uint64_t{places.first.skipped}, places.second.key,
+                                   std::uint64_t{places.second.skipped}}) {
+    hash = (hash ^ part) * factor;
+    hash ^= hash >> 32U;
+  }
+  return static_cast<std::size_t>(hash);
+}
 
 ElementIndex::ElementIndex(const XmlDocument& document, std::size_t objectCount)
     : document_(document),
       idName_(document.findName("xmi:id")),
       isModelTag_(document.getNameCount()),
       slots_(firstSlots, none),
-      objects_(objectCount) {
+      objects_(objectCount),
+      recordOf_(document.getNodeCount(), none) {
   for (XmlDocument::Name name = 0; name < document.getNameCount(); ++name) {
     isModelTag_[name] = equalsIgnoringCase(document.getNameText(name).view(), "uml:Model") ? 1 : 0;
   }
@@ -56,8 +102,8 @@ ElementIndex::ElementIndex(const XmlDocument& document, std::size_t objectCount)
       parent = open.back().record;
       key = key.followedBy(open.back().key);
     }
-    const Number record = idOf(node).isEmpty() ? none : add(node, parent, key);
-    open.push_back({node, key, record});
+    if (!idOf(node).isEmpty()) recordOf_[node] = add(node, parent, key);
+    open.push_back({node, key, recordOf_[node]});
   }
 }
 
@@ -78,51 +124,46 @@ const KYRString& ElementIndex::pieceOf(XmlDocument::Node node) const {
   return DocumentElement(document_, node).attribute("name");
 }
 
-namespace {
-
-// The pieces of an element's key, from the element up.
-template <class Piece, class Ends>
-class ElementChain {
- public:
-  ElementChain(const XmlDocument& document, XmlDocument::Node node, Piece piece, Ends ends)
-      : document_(document), node_(node), piece_(piece), ends_(ends) {}
-  bool atEnd() const noexcept { return node_ == XmlDocument::noNode; }
-  std::string_view piece() const { return piece_(node_); }
-  void next() noexcept { node_ = ends_(node_) ? XmlDocument::noNode : document_.getParent(node_); }
-
- private:
-  const XmlDocument& document_;
-  XmlDocument::Node node_;
-  Piece piece_;
-  Ends ends_;
-};
-
-}  // namespace
-
 template <class Chain>
 bool ElementIndex::sameText(XmlDocument::Node node, Chain other) {
-  const auto piece = [this](XmlDocument::Node at) { return pieceOf(at).view(); };
-  const auto ends = [this](XmlDocument::Node at) { return endsChain(at); };
-  ElementChain<decltype(piece), decltype(ends)> own(document_, node, piece, ends);
-  std::string_view ownRest;
-  std::string_view otherRest;
-  const auto fill = [](auto& chain, std::string_view& rest) {
-    while (rest.empty() && !chain.atEnd()) {
-      rest = chain.piece();
+  // What is left of a piece, and where in a key that is.
+  struct Rest {
+    std::string_view text;
+    Place place = {};
+    void skip(std::size_t count) noexcept {
+      text.remove_prefix(count);
+      place.skipped += count;
+    }
+  };
+  ElementChain own(*this, node);
+  Rest ownRest;
+  Rest otherRest;
+  const auto fill = [](auto& chain, Rest& rest) {
+    while (rest.text.empty() && !chain.atEnd()) {
+      rest = {chain.piece(), {chain.key(), 0}};
       chain.next();
     }
-    return !rest.empty();
+    return !rest.text.empty();
   };
+  walk_.clear();
   while (true) {
     const bool hasOwn = fill(own, ownRest);
     const bool hasOther = fill(other, otherRest);
-    if (!hasOwn || !hasOther) return hasOwn == hasOther;
+    if (!hasOwn || !hasOther) {
+      if (hasOwn != hasOther) return false;
+      break;
+    }
+    const Places places(ownRest.place, otherRest.place);
+    if (places.first == places.second || alike_.count(places) != 0) break;
+    walk_.push_back(places);
     ++comparisons_;
-    const std::size_t count = std::min(ownRest.size(), otherRest.size());
-    if (ownRest.substr(0, count) != otherRest.substr(0, count)) return false;
-    ownRest.remove_prefix(count);
-    otherRest.remove_prefix(count);
+    const std::size_t count = std::min(ownRest.text.size(), otherRest.text.size());
+    if (ownRest.text.substr(0, count) != otherRest.text.substr(0, count)) return false;
+    ownRest.skip(count);
+    otherRest.skip(count);
   }
+  if (walk_.size() > longWalk) alike_.insert(walk_.begin(), walk_.end());
+  return true;
 }
 
 // The slot of the record with that key, or the free one where it belongs.
@@ -152,11 +193,9 @@ void ElementIndex::makeRoom() {
 
 ElementIndex::Number ElementIndex::add(XmlDocument::Node node, Number parent, const CompositeKey& key) {
   makeRoom();
-  const auto piece = [this](XmlDocument::Node element) { return pieceOf(element).view(); };
-  const auto ends = [this](XmlDocument::Node element) { return endsChain(element); };
   Number* const slot = findSlot(key, [&](const Record& record) {
     if (parent != none && record.parent == parent && pieceOf(record.node) == pieceOf(node)) return true;
-    return sameText(record.node, ElementChain<decltype(piece), decltype(ends)>(document_, node, piece, ends));
+    return sameText(record.node, ElementChain(*this, node));
   });
   if (*slot == none) {
     *slot = static_cast<Number>(records_.size());
@@ -169,12 +208,17 @@ ElementIndex::Number ElementIndex::findRecord(const CompositeKey& key, const UML
                                               Number ownerRecord) {
   return *findSlot(key, [&](const Record& record) {
     const bool sameChain = ownerRecord != none && record.parent == ownerRecord;
-    if (sameChain && pieceOf(record.node).view() == ObjectChain(&object).piece()) return true;
-    return sameText(record.node, ObjectChain(&object));
+    const ObjectChain chain(*this, &object);
+    if (sameChain && pieceOf(record.node).view() == chain.piece()) return true;
+    return sameText(record.node, chain);
   });
 }
 
 ElementIndex::Known& ElementIndex::knownOf(const UMLElement& object) noexcept {
+  return objects_[object.readingNumber];
+}
+
+const ElementIndex::Known& ElementIndex::knownOf(const UMLElement& object) const noexcept {
   return objects_[object.readingNumber];
 }
 
@@ -194,7 +238,7 @@ const ElementIndex::Known& ElementIndex::know(const UMLElement& object) {
     const UMLElement& element = *chain.back();
     chain.pop_back();
     Known& known = knownOf(element);
-    known.key = CompositeKey(ObjectChain(&element).piece());
+    known.key = CompositeKey(ObjectChain(*this, &element).piece());
     Number ownerRecord = top;
     if (element.owner != nullptr) {
       const Known& owner = knownOf(*element.owner);

@@ -6,6 +6,8 @@
 #pragma once
 
 #include <cstdint>
+#include <unordered_set>
+#include <utility>
 #include <vector>
 
 #include "extension/CompositeKey.h"
@@ -40,6 +42,19 @@ class ElementIndex {
     enum class State : std::uint8_t { unseen, open, complete } state = State::unseen;
   };
 
+  // A place in a key: the text behind its first characters.
+  struct Place {
+    std::uint64_t key;  // the number of a record, of an element without one, or of an object without one
+    std::size_t skipped;
+    bool operator==(const Place& other) const noexcept = default;
+  };
+  using Places = std::pair<Place, Place>;
+  struct PlacesHash {
+    std::size_t operator()(const Places& places) const noexcept;
+  };
+  class ElementChain;
+  class ObjectChain;
+
   const KYRString& idOf(XmlDocument::Node node) const noexcept;
   bool endsChain(XmlDocument::Node node) const noexcept;
   const KYRString& pieceOf(XmlDocument::Node node) const;
@@ -49,6 +64,7 @@ class ElementIndex {
   void makeRoom();
   Number findRecord(const CompositeKey& key, const UMLElement& object, Number ownerRecord);
   Known& knownOf(const UMLElement& object) noexcept;
+  const Known& knownOf(const UMLElement& object) const noexcept;
   const Known& know(const UMLElement& object);
   template <class Chain>
   bool sameText(XmlDocument::Node node, Chain other);
@@ -59,6 +75,10 @@ class ElementIndex {
   std::vector<Record> records_;
   std::vector<Number> slots_;             // open addressing over the records; none marks a free slot
   std::vector<Known> objects_;            // by reading number
+  std::vector<Number> recordOf_;          // by node: the record of its key; none without an id
   std::vector<const UMLElement*> chain_;  // room for `know`
+  // Places from which two chains have been found to go on alike, and those of the walk under way.
+  std::unordered_set<Places, PlacesHash> alike_;
+  std::vector<Places> walk_;
   std::uint64_t comparisons_ = 0;
 };

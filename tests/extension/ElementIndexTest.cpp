@@ -1,6 +1,9 @@
 // Composite keys: equal exactly when their texts are, at a cost that does not grow with the depth.
 #include "extension/ElementIndex.h"
 
+#include <map>
+#include <random>
+
 #include "extension/DocumentReading.h"
 #include "tests/extension/ExtensionReading.h"
 
@@ -126,6 +129,114 @@ TEST(ElementIndex, AMillionElementsTwentyDeepCostNoMoreThanTheirNumber) {
   ASSERT_TRUE(innermost);
   EXPECT_EQ(innermost.node(), reading.document().getNodeCount() - 1);
   EXPECT_LE(index.getComparisonCount(), 2U * chains * depth);
+}
+
+// Two chains that spell one text with other pieces: "xy" again and again, and "x" on top of "yx" again and
+// again. No two of their elements begin at the same character, so only the text itself tells that the
+// leaves of the second are elements of the first.
+TEST(ElementIndex, KeysThatSpellOneTextWithOtherPiecesAreComparedOnce) {
+  constexpr unsigned int depth = 900;
+  constexpr unsigned int leaves = 50;
+  const auto chain = [](const std::string& id, const std::string& inside) {
+    std::string open;
+    std::string close;
+    for (unsigned int i = 0; i < depth; ++i) {
+      open += "<e xmi:id='" + id + "'>" + inside;
+      close += "</e>";
+    }
+    return open + close;
+  };
+  std::string leaf;
+  for (unsigned int i = 0; i < leaves; ++i) leaf += "<e xmi:id='x'/>";
+  const std::string second = "<e xmi:id='y'>" + leaf + chain("yx", leaf) + "</e>";
+  const TemporaryFile file("<r>" + chain("xy", "") + second + second + "</r>");
+  RecordingLog log;
+  KYRDOM dom(&log);
+  DocumentReading reading;
+  reading.parse(dom, file.file());
+  const ElementIndex index(reading.document(), 0);
+  EXPECT_LE(index.getComparisonCount(), 40U * reading.document().getNodeCount());
+}
+
+using Ids = std::vector<std::string>;
+using Random = std::minstd_rand;
+
+const std::string& pick(const Ids& ids, Random& random) { return ids[random() % ids.size()]; }
+std::string pieceOf(const std::string& id) { return id.empty() ? " " : id; }
+
+// A tree below a root without id and name, and the first element of each key, which is written out.
+struct WrittenOutTree {
+  WrittenOutTree(const Ids& ids, Random& random) {
+    std::vector<std::string> open = {""};
+    for (XmlDocument::Node node = 1; node < 600; ++node) {
+      const std::string& id = pick(ids, random);
+      xml += "<e xmi:id='" + id + "'>";
+      open.push_back(pieceOf(id) + open.back());
+      if (!id.empty()) firstOfKey.emplace(open.back(), node);
+      std::size_t closed = random() % 100 == 0 ? open.size() / 2 : random() % 2;
+      for (; closed > 0 && open.size() > 1; --closed) {
+        open.pop_back();
+        xml += "</e>";
+      }
+    }
+    for (std::size_t left = 1; left < open.size(); ++left) xml += "</e>";
+    xml = "<r>" + xml + "</r>";
+  }
+  std::string xml;
+  std::map<std::string, XmlDocument::Node> firstOfKey;
+};
+
+// Objects in chains of owners, and their keys.
+struct WrittenOutObjects {
+  WrittenOutObjects(unsigned int count, const Ids& ids, Random& random) {
+    for (unsigned int i = 0; i < count; ++i) {
+      const std::string& id = pick(ids, random);
+      objects.push_back(std::make_unique<UMLPackage>(KYRString(std::string_view(id)), KYRString()));
+      objects.back()->readingNumber = i;
+      keys.push_back(pieceOf(id));
+      if (i == 0 || random() % 20 == 0) continue;
+      const std::size_t owner = i - 1 - random() % std::min(i, 3U);
+      objects.back()->owner = objects[owner].get();
+      keys.back() += keys[owner];
+    }
+  }
+  std::vector<std::unique_ptr<UMLPackage>> objects;
+  std::vector<std::string> keys;
+};
+
+// The number of objects that find an element, which must be the one that their written out key finds.
+unsigned int countFound(const Ids& ids, Random& random) {
+  constexpr unsigned int objectCount = 400;
+  const WrittenOutTree tree(ids, random);
+  const WrittenOutObjects made(objectCount, ids, random);
+  const TemporaryFile file(tree.xml);
+  RecordingLog log;
+  KYRDOM dom(&log);
+  DocumentReading reading;
+  reading.parse(dom, file.file());
+  ElementIndex index(reading.document(), objectCount);
+  unsigned int found = 0;
+  for (unsigned int i = 0; i < objectCount; ++i) {
+    const DocumentElement element = index.find(*made.objects[i]);
+    const auto expected = tree.firstOfKey.find(made.keys[i]);
+    EXPECT_EQ(static_cast<bool>(element), expected != tree.firstOfKey.end()) << made.keys[i];
+    if (!element || expected == tree.firstOfKey.end()) continue;
+    EXPECT_EQ(element.node(), expected->second) << made.keys[i];
+    ++found;
+  }
+  return found;
+}
+
+TEST(ElementIndex, FindsWhatWrittenOutKeysFind) {
+  const Ids ofOneLetter = {"x", "xx", "xxx", "xxxxxxx"};  // all keys of one length are equal
+  const Ids ofTwo = {"x", "y", "xy", "yx", "xyx", " ", ""};
+  Random random(7);
+  unsigned int found = 0;
+  for (int round = 0; round < 30; ++round) {
+    found += countFound(ofOneLetter, random);
+    countFound(ofTwo, random);
+  }
+  EXPECT_GT(found, 3000U);
 }
 
 }  // namespace
