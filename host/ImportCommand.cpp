@@ -25,12 +25,6 @@ constexpr const char* rootPackageOption = "BP_ROOT_PACKAGE";
 // Read by libkyr, not by the plug-in, hence in no list of options that a plug-in gives.
 constexpr const char* modificationTimeOption = "BP_MODIFICATION_TIME";
 
-KYRString inSeconds(double seconds) {
-  char text[32];
-  std::snprintf(text, sizeof text, "%.2f", seconds);
-  return KYRString(text);
-}
-
 void countsToJson(JsonOut& json, const SavedModelCounts& counts) {
   json.key("packages").number(counts.packages);
   json.key("classes").number(counts.classes);
@@ -42,11 +36,19 @@ void countsToJson(JsonOut& json, const SavedModelCounts& counts) {
 
 }  // namespace
 
+std::string ImportCommand::targetOf(const Settings& settings) {
+  return FileNames::outputOf(settings.file, settings.output, formatOf(settings));
+}
+
+StoreModelFormat ImportCommand::formatOf(const Settings& settings) {
+  if (settings.modelFormat.has_value()) return *settings.modelFormat;
+  return settings.isAppending ? StoreModelFormat::sqlite : FileNames::formatOf(settings.output);
+}
+
 int ImportCommand::run() {
   using Clock = std::chrono::steady_clock;
   const Clock::time_point start = Clock::now();
-  const StoreModelFormat format = findFormat();
-  target_ = FileNames::outputOf(settings_.file, settings_.output, format);
+  target_ = targetOf(settings_);
   if (isWrongUsage()) return ExitCode::wrongUsage;
   const std::string missing = FileNames::missingFolderOf(target_);
   if (!missing.empty()) {
@@ -57,23 +59,17 @@ int ImportCommand::run() {
   KYROptionList options;
   fillOptions(options);
   KYRFile target{KYRString(target_)};
-  const ModelSaver saver(format, settings_.isAppending);
+  const ModelSaver saver(formatOf(settings_), settings_.isAppending);
   if (!library_.getPlugin().run(originId, target, options, log_)) {
     KYRHostMessages::PLUGIN_REFUSED.throwException();
   }
-  if (!settings_.isQuiet) {
-    writeSummary(std::chrono::duration<double>(Clock::now() - start).count(), saver.getCounts());
-  }
+  result_ = {std::chrono::duration<double>(Clock::now() - start).count(), saver.getCounts()};
+  if (!settings_.isQuiet) writeSummary();
   return ExitCode::done;
 }
 
-StoreModelFormat ImportCommand::findFormat() const {
-  if (settings_.modelFormat.has_value()) return *settings_.modelFormat;
-  return settings_.isAppending ? StoreModelFormat::sqlite : FileNames::formatOf(settings_.output);
-}
-
 bool ImportCommand::isWrongUsage() {
-  if (settings_.isAppending && findFormat() != StoreModelFormat::sqlite) {
+  if (settings_.isAppending && formatOf(settings_) != StoreModelFormat::sqlite) {
     log_.fail(KYRHostMessages::APPEND_NEEDS_SQLITE.getMessage());
     return true;
   }
@@ -116,20 +112,31 @@ void ImportCommand::setOption(KYROptionList& options, const char* identifier, co
   option->setValue(KYRString(value));
 }
 
-void ImportCommand::writeSummary(double seconds, const std::optional<SavedModelCounts>& counts) {
+KYRString ImportCommand::inSeconds(double seconds) {
+  char text[32];
+  std::snprintf(text, sizeof text, "%.2f", seconds);
+  return KYRString(text);
+}
+
+void ImportCommand::resultToJson(JsonOut& json, const std::string& target, const Result& result) {
+  json.key("output").text(target);
+  json.key("seconds").real(result.seconds);
+  if (result.counts.has_value()) countsToJson(json, *result.counts);
+}
+
+void ImportCommand::writeSummary() {
   if (settings_.format == HostLog::Format::json) {
     JsonOut json;
     json.beginObject();
-    json.key("output").text(target_);
-    json.key("seconds").real(seconds);
-    if (counts.has_value()) countsToJson(json, *counts);
+    resultToJson(json, target_, result_);
     json.endObject();
     output_.write(json.endLine());
     return;
   }
   TextOut out(output_);
-  out.line(KYRHostTexts::SUMMARY, target_, inSeconds(seconds));
-  if (!counts.has_value()) return;
-  out.line(KYRHostTexts::SUMMARY_COUNTS, counts->packages, counts->classes, counts->interfaces,
-           counts->attributes, counts->operations, counts->arguments);
+  out.line(KYRHostTexts::SUMMARY, target_, inSeconds(result_.seconds));
+  if (!result_.counts.has_value()) return;
+  const SavedModelCounts& counts = *result_.counts;
+  out.line(KYRHostTexts::SUMMARY_COUNTS, counts.packages, counts.classes, counts.interfaces,
+           counts.attributes, counts.operations, counts.arguments);
 }

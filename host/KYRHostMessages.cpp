@@ -56,6 +56,18 @@ const HostMessage<2> KYRHostMessages::NO_FOLDER(
 const HostMessage<0> KYRHostMessages::APPEND_NEEDS_SQLITE(
     31, fatal, "'--append' adds to a file of the format sqlite; '--format' names another one");
 
+const HostMessage<1> KYRHostMessages::OUTPUT_NOT_A_FOLDER(
+    32, fatal, "For several files '-o' names a folder that is there; '{0}' is none");
+const HostMessage<3> KYRHostMessages::OUTPUTS_CLASH(
+    33, fatal, "The models of '{0}' and '{1}' would be written to one file, '{2}'");
+const HostMessage<1> KYRHostMessages::FILE_FAILED(34, fatal, "'{0}' was not imported");
+const HostMessage<2> KYRHostMessages::FILE_BROKEN_OFF(
+    35, fatal, "'{0}' was not imported: the signal {1} ended the process that was at it");
+const HostMessage<2> KYRHostMessages::CANNOT_START(36, fatal, "No process can be started for '{0}': {1}");
+
+const HostMessage<1> KYRHostMessages::FILE_HAS_WARNINGS(
+    37, warning, "'{0}' was imported, with the warnings before this one");
+
 KYRHostMessages::KYRHostMessages() : KYRTextLiteralsCollection("kyr", HostLiterals::catalogueName) {
   for (KYRTextLiteral* literal : entered()) add(literal);
   init();

@@ -33,6 +33,13 @@ class KYRHostMessages final : public KYRTextLiteralsCollection {
   // The output of an import.
   static const HostMessage<2> NO_FOLDER;
   static const HostMessage<0> APPEND_NEEDS_SQLITE;
+  // Imports of several files.
+  static const HostMessage<1> OUTPUT_NOT_A_FOLDER;
+  static const HostMessage<3> OUTPUTS_CLASH;
+  static const HostMessage<1> FILE_FAILED;
+  static const HostMessage<2> FILE_BROKEN_OFF;
+  static const HostMessage<2> CANNOT_START;
+  static const HostMessage<1> FILE_HAS_WARNINGS;
   // What should not happen.
   static const HostMessage<0> OUT_OF_MEMORY;
   static const HostMessage<1> UNEXPECTED_ERROR;
