@@ -16,7 +16,8 @@ class WrongUsage(CommandTest):
             (["export"], "There is no command 'export'. 'kyr --help'"),
             (["--json"], "'kyr --help'"),
             (["import"], "'kyr import --help'"),
-            (["import", "a.xmi", "b.xmi"], "'kyr import --help'"),
+            (["import", "a.xmi", "-j", "0"], "'kyr import --help'"),
+            (["import", "a.xmi", "-j", "-1"], "'kyr import --help'"),
             (["import", "a.xmi", "--loud"], "'kyr import --help'"),
             (["import", "a.xmi", "-o"], "'kyr import --help'"),
             (["import", "a.xmi", "-o", ""], "the name is empty. 'kyr import --help'"),
@@ -43,7 +44,7 @@ class WrongUsage(CommandTest):
         self.assertEqual(self.names(), [])
 
     def test_a_wrong_word_is_shown_escaped(self):
-        result = self.kyr("import", "a.xmi", "\x1b[2Jb.xmi")
+        result = self.kyr("inspect", "a.xmi", "\x1b[2Jb.xmi")
         self.assertFails(result, WRONG_USAGE, "\\x1b[2Jb.xmi")
         self.assertNotIn("\x1b", result.errors)
 
@@ -86,7 +87,7 @@ class Help(CommandTest):
 
     def test_help_names_every_option(self):
         options = {
-            "import": ["--output", "--format", "--append", "--root-package", "--modification-time", "--encoding", "--quiet", "--log-format",
+            "import": ["--jobs", "--output", "--format", "--append", "--root-package", "--modification-time", "--encoding", "--quiet", "--log-format",
                        "--log-file", "--plugin"],
             "info": ["--json", "--plugin", "--types", "STORE"],
             "inspect": ["--json", "--objects", "--encoding"],
