@@ -31,6 +31,7 @@ TEST(KYRHostMessages, CodesStayWhatUsersKnow) {
       "KYRHOST_F0001", "KYRHOST_F0002", "KYRHOST_F0003", "KYRHOST_F0004", "KYRHOST_F0005", "KYRHOST_F0006",
       "KYRHOST_F0007", "KYRHOST_F0008", "KYRHOST_F0009", "KYRHOST_F0010", "KYRHOST_F0011", "KYRHOST_W0012",
       "KYRHOST_F0013", "KYRHOST_F0014", "KYRHOST_F0015", "KYRHOST_F0016", "KYRHOST_F0017",
+      "KYRHOST_W0031", "KYRHOST_W0032", "KYRHOST_F0033",
   };
   std::set<std::string> codes;
   for (const auto& [identifier, literal] : allLiterals()) {
