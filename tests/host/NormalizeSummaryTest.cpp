@@ -48,9 +48,9 @@ TEST(NormalizeSummary, AToolsNameAndRingsAreToldInTheLog) {
   report.note(NormalizeRule::documentation);
   report.attributeRings = 2;
   NormalizeSummary::logNotes(log, report);
-  EXPECT_EQ(log.countOf("KYRHOST_W0031 "), 1U);
+  EXPECT_EQ(log.countOf("KYRHOST_W0041 "), 1U);
   EXPECT_EQ(log.lines.back(),
-            "KYRHOST_W0032 Elements whose attributes hide each other in any order, and stay as they are: 2");
+            "KYRHOST_W0042 Elements whose attributes hide each other in any order, and stay as they are: 2");
 }
 
 }  // namespace
