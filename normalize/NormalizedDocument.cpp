@@ -101,6 +101,7 @@ void NormalizedDocument::computeReadings() {
   readings_.reserve(withRoom(editor.getNodeCount()));
   readings_.assign(editor.getNodeCount(), Reading());
   objects_.clear();
+  foreignObjects_.clear();
   for (Node node = 0; node != noNode;) {
     if (!editor.isElement(node)) {
       node = editor.getFollowing(node);
@@ -110,7 +111,9 @@ void NormalizedDocument::computeReadings() {
     if (regions_[node] != Region::shielded) {
       const Node parent = editor.getParent(node);
       readings_[node] = read(node, parent == noNode ? Reading() : readings_[parent], parent);
-      if (readings_[node].role == Role::object && regions_[node] == Region::model) objects_.push_back(node);
+      if (readings_[node].role == Role::object) {
+        (regions_[node] == Region::model ? objects_ : foreignObjects_).push_back(node);
+      }
     }
     node = readings_[node].role == Role::skipped ? editor.getBehind(node) : editor.getFollowing(node);
   }
