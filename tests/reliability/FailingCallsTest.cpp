@@ -6,9 +6,11 @@
 
 #include <cerrno>
 #include <iostream>
+#include <span>
 
 #include "repository/storage/StoreModelFile.h"
 #include "tests/reliability/ImportRun.h"
+#include "tests/reliability/Soak.h"
 #include "tests/support/TemporaryFile.h"
 
 namespace {
@@ -28,9 +30,9 @@ constexpr Fault faults[] = {
 };
 
 // Once the new file has the name, nothing that fails undoes it: opening and syncing the directory.
-void failEachCall(const std::string& input, const std::string& expected) {
+void failEachCall(const std::string& input, const std::string& expected, std::span<const Fault> chosen) {
   int survived = 0;
-  for (const Fault& fault : faults) {
+  for (const Fault& fault : chosen) {
     for (const auto extent : {CallFault::Extent::one, CallFault::Extent::allFrom}) {
       bool isFailing = true;
       bool isRaised = false;
@@ -66,7 +68,7 @@ class FailingCalls : public testing::TestWithParam<const char*> {};
 
 TEST_P(FailingCalls, EachOneEndsTheImportAndLeavesTheOldFile) {
   const std::string input = samplePath(GetParam());
-  failEachCall(input, ImportRun::resultOf(input));
+  failEachCall(input, ImportRun::resultOf(input), faults);
 }
 
 TEST_P(FailingCalls, OneByteAtATimeMakesNoDifference) {
@@ -103,11 +105,13 @@ INSTANTIATE_TEST_SUITE_P(Samples, FailingCalls,
 
 // A file of more than a megabyte is read by one thread and followed by another, and so is what is saved.
 TEST(FailingCallsOfThreads, EndTheImportToo) {
-  const TemporaryFile input(fileOfClasses(6000));
+  const TemporaryFile input(fileOfClasses(4800));
   const std::string expected = ImportRun::resultOf(input.path);
   ASSERT_GT(readWholeFile(input.path).size(), std::size_t{1} << 20);
   ASSERT_GT(expected.size(), std::size_t{1} << 20);
-  failEachCall(input.path, expected);
+  static constexpr Fault inThreads[] = {{FailingCall::read, EIO, "Input/output error"},
+                                        {FailingCall::write, ENOSPC, "No space left"}};
+  failEachCall(input.path, expected, isSoaking() ? std::span<const Fault>(faults) : inThreads);
 }
 
 std::unique_ptr<KYRStoreModel> loadSample() {
