@@ -15,6 +15,7 @@
 #include "host/PhaseReport.h"
 #include "host/PluginLibrary.h"
 #include "host/TextOut.h"
+#include "host/TraceFile.h"
 #include "repository/plugin/KYRImportBridgeDllInterface.h"
 
 namespace {
@@ -70,9 +71,12 @@ int ImportCommand::run() {
   fillOptions(options);
   const PhaseReport phases(settings_.withTiming);
   const ModelSaver saver(format, settings_.isAppending);
+  TraceFile trace(settings_.traceFile);
   importFile(options);
+  trace.commit();
   if (!settings_.isQuiet) {
-    writeSummary(std::chrono::duration<double>(Clock::now() - start).count(), saver.getCounts(), phases);
+    writeSummary(std::chrono::duration<double>(Clock::now() - start).count(), saver.getCounts(), phases,
+                 trace);
   }
   return ExitCode::done;
 }
@@ -111,6 +115,10 @@ bool ImportCommand::filesClash() {
     log_.fail(KYRHostMessages::OUTPUT_IS_INPUT.getMessage(KYRString(target_)));
     return true;
   }
+  if (traceClashes()) {
+    log_.fail(KYRHostMessages::TRACE_IS_OTHER_FILE.getMessage(KYRString(settings_.traceFile)));
+    return true;
+  }
   if (settings_.logFile.empty()) return false;
   if (FileNames::isSame(settings_.logFile, settings_.file)) {
     log_.fail(KYRHostMessages::LOG_FILE_IS_INPUT.getMessage(KYRString(settings_.logFile)));
@@ -119,6 +127,14 @@ bool ImportCommand::filesClash() {
   if (FileNames::isSame(settings_.logFile, target_)) {
     log_.fail(KYRHostMessages::LOG_FILE_IS_OUTPUT.getMessage(KYRString(settings_.logFile)));
     return true;
+  }
+  return false;
+}
+
+bool ImportCommand::traceClashes() const {
+  if (settings_.traceFile.empty()) return false;
+  for (const std::string& other : {settings_.file, target_, settings_.logFile}) {
+    if (!other.empty() && FileNames::isSame(settings_.traceFile, other)) return true;
   }
   return false;
 }
@@ -143,7 +159,7 @@ void ImportCommand::setOption(KYROptionList& options, const char* identifier, co
 }
 
 void ImportCommand::writeSummary(double seconds, const std::optional<SavedModelCounts>& counts,
-                                 const PhaseReport& phases) {
+                                 const PhaseReport& phases, const TraceFile& trace) {
   std::optional<LossSurvey::Loss> loss;
   if (counts.has_value() && !normalizer_) {
     loss = survey_.compare(KYRFile(KYRString(settings_.file)), *counts, !settings_.rootPackage.empty());
@@ -156,6 +172,7 @@ void ImportCommand::writeSummary(double seconds, const std::optional<SavedModelC
     if (counts.has_value()) countsToJson(json, *counts);
     if (normalizer_) NormalizeSummary::toJson(json.key("normalized"), normalizer_->getReport());
     if (loss.has_value()) lossToJson(json, *loss);
+    trace.write(json);
     phases.write(json);
     json.endObject();
     output_.write(json.endLine());
@@ -171,5 +188,6 @@ void ImportCommand::writeSummary(double seconds, const std::optional<SavedModelC
   if (loss.has_value()) {
     out.line(KYRHostTexts::SUMMARY_LOST, loss->classes, loss->attributes, loss->associations, loss->reasons);
   }
+  trace.write(out);
   phases.write(out);
 }

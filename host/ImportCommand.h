@@ -13,6 +13,7 @@
 class KYROptionList;
 class PhaseReport;
 class PluginLibrary;
+class TraceFile;
 
 class ImportCommand {
  public:
@@ -23,6 +24,7 @@ class ImportCommand {
     std::string modificationTime;                 // ISO 8601; empty: the present
     std::string plugin;                           // empty: the one of this installation
     std::string logFile;                          // empty: none
+    std::string traceFile;                        // empty: none
     std::optional<StoreModelFormat> modelFormat;  // nothing: as the name of the output says
     bool isAppending = false;
     NormalizeChoice normalize;
@@ -41,10 +43,12 @@ class ImportCommand {
   StoreModelFormat findFormat() const;
   bool isWrongUsage();
   bool filesClash();
+  bool traceClashes() const;
   void fillOptions(KYROptionList& options);
   void importFile(KYROptionList& options);
   void setOption(KYROptionList& options, const char* identifier, const std::string& value);
-  void writeSummary(double seconds, const std::optional<SavedModelCounts>& counts, const PhaseReport& phases);
+  void writeSummary(double seconds, const std::optional<SavedModelCounts>& counts, const PhaseReport& phases,
+                    const TraceFile& trace);
 
   Settings settings_;
   PluginLibrary& library_;

@@ -37,6 +37,8 @@ class KYRHostMessages final : public KYRTextLiteralsCollection {
   static const HostMessage<0> TOOL_NAME_FOUND;
   static const HostMessage<1> ATTRIBUTE_RINGS;
   static const HostMessage<1> NORMALIZED_IS_INPUT;
+  // The trace of an import.
+  static const HostMessage<1> TRACE_IS_OTHER_FILE;
   // What should not happen.
   static const HostMessage<0> OUT_OF_MEMORY;
   static const HostMessage<1> UNEXPECTED_ERROR;
