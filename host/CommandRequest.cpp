@@ -110,6 +110,7 @@ void Definition::defineImport() {
   command.add_flag("--timing", settings.withTiming, textOf(IMPORT_HELP_TIMING));
   defineLogFormat(command);
   command.add_option("--log-file", settings.logFile, textOf(IMPORT_HELP_LOG_FILE))->type_name("PATH");
+  command.add_option("--trace", settings.traceFile, textOf(IMPORT_HELP_TRACE))->type_name("PATH");
   addPlugin(command, settings.plugin);
 }
 

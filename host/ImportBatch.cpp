@@ -49,6 +49,10 @@ int ImportBatch::run() {
 }
 
 bool ImportBatch::isWrongUsage() {
+  if (!settings_.traceFile.empty()) {
+    log_.fail(KYRHostMessages::TRACE_OF_ONE_FILE.getMessage());
+    return true;
+  }
   std::error_code failure;
   const bool needsFolder = !settings_.output.empty() && !settings_.isAppending;
   if (needsFolder && !std::filesystem::is_directory(settings_.output, failure)) {

@@ -15,6 +15,7 @@
 #include "host/PhaseReport.h"
 #include "host/PluginLibrary.h"
 #include "host/TextOut.h"
+#include "host/TraceFile.h"
 #include "repository/plugin/KYRImportBridgeDllInterface.h"
 
 namespace {
@@ -72,9 +73,11 @@ int ImportCommand::run() {
   fillOptions(options);
   const PhaseReport phases(settings_.withTiming);
   const ModelSaver saver(formatOf(settings_), settings_.isAppending);
+  TraceFile trace(settings_.traceFile);
   importFile(options);
+  trace.commit();
   result_ = {std::chrono::duration<double>(Clock::now() - start).count(), saver.getCounts()};
-  if (!settings_.isQuiet) writeSummary(phases);
+  if (!settings_.isQuiet) writeSummary(phases, trace);
   return ExitCode::done;
 }
 
@@ -107,6 +110,10 @@ bool ImportCommand::filesClash() {
     log_.fail(KYRHostMessages::OUTPUT_IS_INPUT.getMessage(KYRString(target_)));
     return true;
   }
+  if (traceClashes()) {
+    log_.fail(KYRHostMessages::TRACE_IS_OTHER_FILE.getMessage(KYRString(settings_.traceFile)));
+    return true;
+  }
   if (settings_.logFile.empty()) return false;
   if (FileNames::isSame(settings_.logFile, settings_.file)) {
     log_.fail(KYRHostMessages::LOG_FILE_IS_INPUT.getMessage(KYRString(settings_.logFile)));
@@ -115,6 +122,14 @@ bool ImportCommand::filesClash() {
   if (FileNames::isSame(settings_.logFile, target_)) {
     log_.fail(KYRHostMessages::LOG_FILE_IS_OUTPUT.getMessage(KYRString(settings_.logFile)));
     return true;
+  }
+  return false;
+}
+
+bool ImportCommand::traceClashes() const {
+  if (settings_.traceFile.empty()) return false;
+  for (const std::string& other : {settings_.file, target_, settings_.logFile}) {
+    if (!other.empty() && FileNames::isSame(settings_.traceFile, other)) return true;
   }
   return false;
 }
@@ -150,7 +165,7 @@ void ImportCommand::resultToJson(JsonOut& json, const std::string& target, const
   if (result.counts.has_value()) countsToJson(json, *result.counts);
 }
 
-void ImportCommand::writeSummary(const PhaseReport& phases) {
+void ImportCommand::writeSummary(const PhaseReport& phases, const TraceFile& trace) {
   std::optional<LossSurvey::Loss> loss;
   if (result_.counts.has_value() && !normalizer_) {
     loss =
@@ -162,6 +177,7 @@ void ImportCommand::writeSummary(const PhaseReport& phases) {
     resultToJson(json, target_, result_);
     if (normalizer_) NormalizeSummary::toJson(json.key("normalized"), normalizer_->getReport());
     if (loss.has_value()) lossToJson(json, *loss);
+    trace.write(json);
     phases.write(json);
     json.endObject();
     output_.write(json.endLine());
@@ -178,5 +194,6 @@ void ImportCommand::writeSummary(const PhaseReport& phases) {
   if (loss.has_value()) {
     out.line(KYRHostTexts::SUMMARY_LOST, loss->classes, loss->attributes, loss->associations, loss->reasons);
   }
+  trace.write(out);
   phases.write(out);
 }

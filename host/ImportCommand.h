@@ -15,6 +15,7 @@ class JsonOut;
 class KYROptionList;
 class PhaseReport;
 class PluginLibrary;
+class TraceFile;
 
 class ImportCommand {
  public:
@@ -27,6 +28,7 @@ class ImportCommand {
     std::string modificationTime;                 // ISO 8601; empty: the present
     std::string plugin;                           // empty: the one of this installation
     std::string logFile;                          // empty: none
+    std::string traceFile;                        // empty: none
     std::optional<StoreModelFormat> modelFormat;  // nothing: as the name of the output says
     bool isAppending = false;
     NormalizeChoice normalize;
@@ -58,10 +60,11 @@ class ImportCommand {
   static StoreModelFormat formatOf(const Settings& settings);
   bool isWrongUsage();
   bool filesClash();
+  bool traceClashes() const;
   void fillOptions(KYROptionList& options);
   void importFile(KYROptionList& options);
   void setOption(KYROptionList& options, const char* identifier, const std::string& value);
-  void writeSummary(const PhaseReport& phases);
+  void writeSummary(const PhaseReport& phases, const TraceFile& trace);
 
   Settings settings_;
   PluginLibrary& library_;

@@ -71,6 +71,10 @@ const HostText<0> IMPORT_HELP_QUIET("IMPORT_HELP_QUIET",
                                     "Print warnings and errors only: no STATUS lines and no summary");
 const HostText<0> IMPORT_HELP_TIMING("IMPORT_HELP_TIMING",
                                      "Tell in the summary what processor time each phase took");
+const HostText<0> IMPORT_HELP_TRACE(
+    "IMPORT_HELP_TRACE",
+    "A file that tells what became of each UML element that is no object of its own in the model: where it "
+    "lives on, or why it is lost. One JSON object a line");
 const HostText<0> IMPORT_HELP_LOG_FORMAT(
     "IMPORT_HELP_LOG_FORMAT",
     "text: lines to read. json: one JSON object a line with \"level\", \"code\" and \"text\", and the "

@@ -77,6 +77,11 @@ const HostMessage<1> KYRHostMessages::ATTRIBUTE_RINGS(
 const HostMessage<1> KYRHostMessages::NORMALIZED_IS_INPUT(
     43, fatal,
     "The rewritten file would be written over the file that it comes from, '{0}'; '-o' names another one");
+const HostMessage<1> KYRHostMessages::TRACE_IS_OTHER_FILE(
+    60, fatal,
+    "The trace '{0}' would be written over the file that is to be imported, the model or the log file");
+const HostMessage<0> KYRHostMessages::TRACE_OF_ONE_FILE(
+    61, fatal, "'--trace' tells of the import of one file; several are named");
 
 KYRHostMessages::KYRHostMessages() : KYRTextLiteralsCollection("kyr", HostLiterals::catalogueName) {
   for (KYRTextLiteral* literal : entered()) add(literal);

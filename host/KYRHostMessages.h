@@ -44,6 +44,9 @@ class KYRHostMessages final : public KYRTextLiteralsCollection {
   static const HostMessage<2> FILE_BROKEN_OFF;
   static const HostMessage<2> CANNOT_START;
   static const HostMessage<1> FILE_HAS_WARNINGS;
+  // The trace of an import.
+  static const HostMessage<1> TRACE_IS_OTHER_FILE;
+  static const HostMessage<0> TRACE_OF_ONE_FILE;
   // What should not happen.
   static const HostMessage<0> OUT_OF_MEMORY;
   static const HostMessage<1> UNEXPECTED_ERROR;

@@ -17,6 +17,8 @@ const HostText<7> SUMMARY_COUNTS("SUMMARY_COUNTS",
                                  "operations {4}, arguments {5}, diagrams {6}");
 
 const HostText<2> SUMMARY_PHASE("SUMMARY_PHASE", "{0} s  {1}");
+const HostText<5> SUMMARY_TRACE("SUMMARY_TRACE",
+                                "elements {0}: converted {1}, absorbed {2}, lost {3}; '{4}' tells of each");
 
 const HostText<1> BATCH_FILE_FAILED("BATCH_FILE_FAILED", "Failed '{0}'");
 const HostText<0> BATCH_HEAD(

@@ -28,6 +28,7 @@ extern const HostText<0> IMPORT_HELP_ROOT_PACKAGE;
 extern const HostText<0> IMPORT_HELP_MODIFICATION_TIME;
 extern const HostText<0> IMPORT_HELP_QUIET;
 extern const HostText<0> IMPORT_HELP_TIMING;
+extern const HostText<0> IMPORT_HELP_TRACE;
 extern const HostText<0> IMPORT_HELP_LOG_FORMAT;
 extern const HostText<0> IMPORT_HELP_LOG_FILE;
 
@@ -77,6 +78,8 @@ extern const HostText<2> SUMMARY;
 extern const HostText<7> SUMMARY_COUNTS;
 /// With --timing: seconds and phase.
 extern const HostText<2> SUMMARY_PHASE;
+/// With --trace: elements, converted, absorbed, lost, and the file.
+extern const HostText<5> SUMMARY_TRACE;
 
 // What the normalising step has done, and what an import without it has lost.
 extern const HostText<1> SUMMARY_NORMALIZED;
