@@ -19,6 +19,7 @@ const HostText<7> SUMMARY_COUNTS("SUMMARY_COUNTS",
 const HostText<2> SUMMARY_PHASE("SUMMARY_PHASE", "{0} s  {1}");
 
 const HostText<1> DIAGRAM_WRITTEN("DIAGRAM_WRITTEN", "Wrote '{0}'");
+const HostText<1> REPORT_WRITTEN("REPORT_WRITTEN", "Wrote '{0}'");
 
 const HostText<0> DIFF_EQUAL("DIFF_EQUAL", "The models are equal");
 const HostText<2> DIFF_REMOVED("DIFF_REMOVED", "removed {0} {1}");
