@@ -51,6 +51,8 @@ const HostMessage<1> KYRHostMessages::NO_DIAGRAMS(16, fatal, "The model in '{0}'
 const HostMessage<2> KYRHostMessages::NO_SUCH_DIAGRAM(17, fatal,
                                                       "The model in '{0}' has no class diagram named '{1}'");
 
+const HostMessage<1> KYRHostMessages::PAGE_IS_MODEL(
+    50, fatal, "The page would be written over the model '{0}'; '-o' names another file");
 const HostMessage<2> KYRHostMessages::NO_FOLDER(
     30, fatal, "The model cannot be written to '{0}': there is no folder '{1}'");
 const HostMessage<0> KYRHostMessages::APPEND_NEEDS_SQLITE(

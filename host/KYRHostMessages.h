@@ -30,6 +30,8 @@ class KYRHostMessages final : public KYRTextLiteralsCollection {
   // Diagrams.
   static const HostMessage<1> NO_DIAGRAMS;
   static const HostMessage<2> NO_SUCH_DIAGRAM;
+  // The page of a model.
+  static const HostMessage<1> PAGE_IS_MODEL;
   // The output of an import.
   static const HostMessage<2> NO_FOLDER;
   static const HostMessage<0> APPEND_NEEDS_SQLITE;
