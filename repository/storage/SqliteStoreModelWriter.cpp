@@ -57,7 +57,13 @@ void SqliteStoreModelWriter::beginDocument(const KYRStoreModel& model) {
     removeFormer(model);
   }
   setFirstId(firstId_);
-  for (const SqlTable& table : getSchema().getTables()) inserts_.emplace_back(database_, insertInto(table));
+  for (const SqlTable& table : getSchema().getTables()) {
+    Insert& insert = inserts_.emplace_back(Insert{SqliteStatement(database_, insertInto(table)), {}});
+    insert.parameters.resize(table.columns.size());
+    for (std::size_t column = 0; column < table.columns.size(); ++column) {
+      bindDefault(insert.statement, table, column);
+    }
+  }
 }
 
 void SqliteStoreModelWriter::createSchema() {
@@ -114,30 +120,43 @@ void SqliteStoreModelWriter::fillSearch() {
         getLastId());
 }
 
-void SqliteStoreModelWriter::beginRow(const SqlTable& table) {
-  SqliteStatement& insert = inserts_[table.index];
-  int parameter = 0;
-  for (const SqlColumn& column : table.columns) {
-    const bool isNumber = column.kind == SqlColumn::Kind::number || column.kind == SqlColumn::Kind::flag;
-    if (isNumber) {
-      insert.bind(++parameter, 0);
-    } else {
-      insert.bindNull(++parameter);
-    }
+void SqliteStoreModelWriter::bindDefault(SqliteStatement& insert, const SqlTable& table, std::size_t column) {
+  const SqlColumn::Kind kind = table.columns[column].kind;
+  if (kind == SqlColumn::Kind::number || kind == SqlColumn::Kind::flag) {
+    insert.bind(parameterOf(column), 0);
+  } else {
+    insert.bindNull(parameterOf(column));
   }
 }
 
+void SqliteStoreModelWriter::beginRow(const SqlTable&) {}
+
 void SqliteStoreModelWriter::putNumber(const SqlTable& table, std::size_t column, std::int64_t value) {
-  inserts_[table.index].bind(parameterOf(column), value);
+  Insert& insert = inserts_[table.index];
+  insert.statement.bind(parameterOf(column), value);
+  insert.parameters[column] = Parameter::ofThisRow;
 }
 
 void SqliteStoreModelWriter::putText(const SqlTable& table, std::size_t column, std::string_view value,
                                      bool isPassing) {
-  inserts_[table.index].bind(parameterOf(column), value, isPassing);
+  Insert& insert = inserts_[table.index];
+  insert.statement.bind(parameterOf(column), value, isPassing);
+  insert.parameters[column] = Parameter::ofThisRow;
 }
 
+// Parameters keep their values, so only those are put back to the default that the row before has set
+// and this one has not.
 void SqliteStoreModelWriter::endRow(const SqlTable& table) {
-  SqliteStatement& insert = inserts_[table.index];
-  insert.step();
-  insert.reset();
+  Insert& insert = inserts_[table.index];
+  for (std::size_t column = 0; column < insert.parameters.size(); ++column) {
+    Parameter& parameter = insert.parameters[column];
+    if (parameter == Parameter::ofFormerRow) {
+      bindDefault(insert.statement, table, column);
+      parameter = Parameter::atDefault;
+    } else if (parameter == Parameter::ofThisRow) {
+      parameter = Parameter::ofFormerRow;
+    }
+  }
+  insert.statement.step();
+  insert.statement.reset();
 }

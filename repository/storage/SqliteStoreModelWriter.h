@@ -28,6 +28,12 @@ class KYR_EXPORT SqliteStoreModelWriter : public SqlRowWriter {
   void endRow(const SqlTable& table) override;
 
  private:
+  enum class Parameter : unsigned char { atDefault, ofFormerRow, ofThisRow };
+  struct Insert {
+    SqliteStatement statement;
+    std::vector<Parameter> parameters;  // by column
+  };
+  static void bindDefault(SqliteStatement& insert, const SqlTable& table, std::size_t column);
   void createSchema();
   void refuseOthers() const;
   void removeFormer(const KYRStoreModel& model);
@@ -37,5 +43,5 @@ class KYR_EXPORT SqliteStoreModelWriter : public SqlRowWriter {
   KYRString shownPath_;
   bool isNew_ = false;
   std::int64_t firstId_ = 1;
-  std::vector<SqliteStatement> inserts_;  // by the index of the table
+  std::vector<Insert> inserts_;  // by the index of the table
 };

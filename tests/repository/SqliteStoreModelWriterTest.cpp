@@ -105,6 +105,21 @@ TEST_F(SqliteStoreModel, EveryFieldArrives) {
             "box|-|-60|70|1\nline|1,2;3,4|-60|70|0");
 }
 
+// The statement of a table is used again and again: a row must not take over what the one before has set.
+TEST_F(SqliteStoreModel, EachRowHasItsOwnValuesOnly) {
+  KYRStoreModel model;
+  for (int i = 0; i < 6; ++i) {
+    auto* package = new KYRDesignPackage();
+    model.addDesignPackage(package);
+    if (i % 2 == 0) package->setName(KYRString(i));
+    if (i % 3 == 0) package->isModelPackage = true;
+    if (i == 2) package->description = "two";
+  }
+  saveAsSqlite(model);
+  EXPECT_EQ(ask("SELECT name, is_model_package, description FROM packages ORDER BY id"),
+            "0|1|-\n-|0|-\n2|0|two\n-|1|-\n4|0|-\n-|0|-");
+}
+
 TEST_F(SqliteStoreModel, TheViewsAnswer) {
   saveAsSqlite(*makeFullModel());
   EXPECT_EQ(
