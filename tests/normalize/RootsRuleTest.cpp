@@ -51,6 +51,15 @@ TEST(RootsRule, APackageOrProfileAloneBecomesTheModel) {
   }
 }
 
+TEST(RootsRule, AProfileAloneBecomesTheModelWithAllRulesToo) {
+  for (const std::string& text :
+       {file("<uml:Profile xmi:id='p'/>"), std::string("<uml:Profile xmi:id='p'/>")}) {
+    EXPECT_NE(normalized(text, nullptr, Normalizer::Extent::all)
+                  .find("<uml:Model xmi:type=\"uml:Model\" xmi:id=\"p\"/>"),
+              std::string::npos);
+  }
+}
+
 TEST(RootsRule, SeveralPackagesAreHeldByANewModelOfTheFilesName) {
   EXPECT_EQ(change(file("<S:A/><uml:Package xmi:id='p'/><uml:Package xmi:id='q'/>")).text,
             plain(file("<S:A/><uml:Model xmi:type='uml:Model' xmi:id='kyr_1_110' name='shop.xmi'>"
