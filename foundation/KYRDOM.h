@@ -19,7 +19,8 @@ class KYR_EXPORT KYRDOM {
   virtual ~KYRDOM();
   /// The root element, owned by the caller; null for a document without one.
   /// When a document of the same unchanged file (device, inode, size and time of change) still
-  /// lives, the tree stands on that one and nothing is read. Raises as KYRSAX2Parser::parseFile.
+  /// lives, the tree stands on that one and nothing is read. Of a file that a host has installed a rewriter
+  /// for (foundation/xml/XmlRewriting.h) it is the rewritten document. Raises as KYRSAX2Parser::parseFile.
   virtual KYRDOMElement* parseFile(const KYRFile& file);
   /// The same for a file that is not read as the input of an import, such as a module that the input
   /// refers to: what a host has installed to rewrite the input (XmlRewriting) does not touch it, be it

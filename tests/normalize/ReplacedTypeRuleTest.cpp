@@ -43,6 +43,10 @@ TEST(ReplacedTypeRule, OtherTypesAndTheDataOfToolsStay) {
 TEST(ReplacedTypeRule, ProfilesAndComponentsHaveRulesOfTheirOwn) {
   EXPECT_EQ(change(ReplacedTypeRule::forProfiles(), "<packagedElement xmi:type='uml:Profile'/>").text,
             plain(xmi("<packagedElement xmi:type='uml:Package'/>")));
+  for (const char* profile : {"<uml:Profile/>", "<uml:Profile xmi:type='uml:Profile'/>"}) {
+    EXPECT_EQ(change(ReplacedTypeRule::forProfiles(), profile).text,
+              plain(xmi("<packagedElement xmi:type='uml:Package'/>")));
+  }
   for (const char* type : {"Component", "Node", "Device", "ExecutionEnvironment"}) {
     SCOPED_TRACE(type);
     EXPECT_EQ(change(ReplacedTypeRule::forComponents(), element(type, "xmi:id='c'")).text,

@@ -45,7 +45,18 @@ TEST(RootsRule, APackageOrProfileAloneBecomesTheModel) {
     const std::string name = tag;
     EXPECT_EQ(change(file("<" + name + " xmi:type='" + name + "' xmi:id='p'><a/></" + name + ">")).text,
               plain(file("<uml:Model xmi:type='uml:Model' xmi:id='p'><a/></uml:Model>")));
-    EXPECT_EQ(change("<" + name + " xmi:id='p'/>").text, plain("<uml:Model xmi:id='p'/>"));
+    const Changed changed = change("<" + name + " xmi:id='p'/>");
+    EXPECT_EQ(changed.text, plain("<uml:Model xmi:id='p'/>"));
+    EXPECT_FALSE(changed.report.matters());
+  }
+}
+
+TEST(RootsRule, AProfileAloneBecomesTheModelWithAllRulesToo) {
+  for (const std::string& text :
+       {file("<uml:Profile xmi:id='p'/>"), std::string("<uml:Profile xmi:id='p'/>")}) {
+    EXPECT_NE(normalized(text, nullptr, Normalizer::Extent::all)
+                  .find("<uml:Model xmi:type=\"uml:Model\" xmi:id=\"p\"/>"),
+              std::string::npos);
   }
 }
 
