@@ -4,6 +4,9 @@
 #include <gtest/gtest.h>
 #include <malloc.h>
 
+#include <algorithm>
+#include <limits>
+
 #include "tests/reliability/ImportRun.h"
 #include "tests/support/FailingAllocation.h"
 
@@ -22,7 +25,7 @@ void importByPlugin(const std::string& output) {
     RecordingLog log;
     KYROptionList options;
     plugin.getOptionList(options);
-    options.get("BP_FILE")->setValue(samplePath("enterprise-architect.xmi").c_str());
+    options.get("BP_FILE")->setValue(samplePath("magicdraw-module.xmi").c_str());
     KYRFile target(output.c_str());
     plugin.run("loop", target, options, log);
   }
@@ -35,17 +38,21 @@ bool isLoaded() {
   return library != nullptr;
 }
 
+// What the allocator keeps at hand changes from round to round, so single batches may grow; a leak shows in
+// each of them.
 TEST(PluginLoop, AHundredRoundsLeaveNothingInMemory) {
   const ImportRun folder("");
-  constexpr int warmUp = 5;  // until what lives as long as the process is there
-  constexpr int rounds = 100;
-  for (int round = 0; round < warmUp; ++round) importByPlugin(folder.output());
+  constexpr int batches = 10;
+  constexpr int rounds = 10;
+  long leastGrowth = std::numeric_limits<long>::max();
+  for (int batch = 0; batch < batches; ++batch) {
+    const auto before = static_cast<long>(mallinfo2().uordblks);
+    for (int round = 0; round < rounds; ++round) importByPlugin(folder.output());
+    leastGrowth = std::min(leastGrowth, static_cast<long>(mallinfo2().uordblks) - before);
+  }
   EXPECT_FALSE(isLoaded());
-  const std::size_t before = mallinfo2().uordblks;
-  for (int round = 0; round < rounds; ++round) importByPlugin(folder.output());
-  constexpr std::size_t roomForOnce = 2048;  // far below a byte for each object and round
-  if (FailingAllocation::reachesC()) {       // a sanitizer's own allocator is not the one that is asked
-    EXPECT_LT(mallinfo2().uordblks, before + roomForOnce);
+  if (FailingAllocation::reachesC()) {  // a sanitizer's own allocator is not the one that is asked
+    EXPECT_LE(leastGrowth, 0);
   }
   EXPECT_NE(folder.saved(), ImportRun::old);
 }
