@@ -6,6 +6,7 @@ SHELL := /bin/bash
 
 JOBS ?= $(shell nproc)
 CORPUS ?=
+SECONDS ?= 60
 export CTEST_PARALLEL_LEVEL ?= $(JOBS)
 
 configure_flags := $(if $(CORPUS),-DKYR_CORPUS_DIR=$(abspath $(CORPUS)))
@@ -13,7 +14,7 @@ sample := samples/plain.xmi
 imported := out/plain.json
 drawn := samples/magicdraw-diagrams.xmi
 
-.PHONY: help build run test soak lint format bench clean deps-%
+.PHONY: help build run test soak fuzz lint format bench clean deps-%
 
 help: ## List the commands
 	@grep -hE '^[a-z]+:.*## ' $(MAKEFILE_LIST) | sed -E 's/^([a-z]+):.*## (.*)/  make \1\t\2/' | expand -t 16
@@ -46,6 +47,11 @@ soak: build ## Run the long loops of broken files and faults, under the sanitize
 	cmake --preset asan-ubsan
 	cmake --build --preset asan-ubsan --parallel $(JOBS)
 	ctest --preset asan-ubsan -C soak -L soak
+
+fuzz: deps-build deps-lint ## Run each fuzzer for SECONDS=60 from the seeds and what it learned before
+	cmake --preset fuzz
+	cmake --build --preset fuzz --parallel $(JOBS)
+	python3 fuzz/run_fuzzers.py build/fuzz --seconds $(SECONDS)
 
 lint: deps-build deps-test deps-lint ## Check format, include direction, headers and clang-tidy
 	scripts/lint.sh

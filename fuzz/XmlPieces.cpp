@@ -99,6 +99,6 @@ std::string withCopyAt(std::string_view text, TextSpan span, std::size_t place) 
 std::string withMoved(std::string_view text, TextSpan span, std::size_t place) {
   const std::string piece(span.of(text));
   std::string result = withReplaced(text, span, "");
-  result.insert(place < span.begin ? place : place - span.size(), piece);
+  result.insert(place <= span.begin ? place : place - span.size(), piece);
   return result;
 }

@@ -10,6 +10,7 @@
 
 #include "bridge/KYROmgUml2XmiImportDllInterface.h"
 #include "foundation/KYRException.h"
+#include "foundation/KYRFile.h"
 #include "foundation/KYROption.h"
 #include "tests/support/RecordingLog.h"
 #include "xmi/DispatchRows.h"

@@ -121,7 +121,7 @@ TEST(OutOfMemoryInThreads, AnImportRaisesOrGivesAValidModel) {
     ImportRun import(input.path);
     count = countAllocations([&] { import.run(); });
   }
-  const long cases = isSoaking() ? 2000 : 10;
+  const long cases = isSoaking() ? 200 : 10;
   for (const Extent extent : {Extent::one, Extent::allFrom}) {
     for (long number = 0; number < count; number += std::max(1L, count / cases)) {
       ImportRun import(input.path);

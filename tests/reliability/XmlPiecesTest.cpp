@@ -48,6 +48,8 @@ TEST(XmlPieces, TextsAreCutAndJoined) {
   EXPECT_EQ(withReplaced("abc", b, "xy"), "axyc");
   EXPECT_EQ(withCopyAt("abc", b, 3), "abcb");
   EXPECT_EQ(withMoved("abc", b, 0), "bac");
+  EXPECT_EQ(withMoved("abc", b, 1), "abc");
+  EXPECT_EQ(withMoved("abc", b, 2), "abc");
   EXPECT_EQ(withMoved("abc", b, 3), "acb");
 }
 
