@@ -18,7 +18,8 @@ SUMMARY = re.compile(
     r"Wrote '(?P<output>.*)' in \d+\.\d\d s\n"
     r"packages (?P<packages>\d+), classes (?P<classes>\d+), interfaces (?P<interfaces>\d+), "
     r"attributes (?P<attributes>\d+), operations (?P<operations>\d+), arguments (?P<arguments>\d+), "
-    r"diagrams (?P<diagrams>\d+)\n")
+    r"diagrams (?P<diagrams>\d+)\n"
+    r"(?:lost for the way .*\n)?")
 INTERFACE = 9
 
 
@@ -238,13 +239,14 @@ class Log(CommandTest):
         summary = json.loads(result.output)
         self.assertEqual(summary.pop("output"), "out.json")
         self.assertGreaterEqual(summary.pop("seconds"), 0)
+        self.assertEqual(summary.pop("lost")["classes"], 1)  # the class without an id
         self.assertEqual(summary, counts_of(self.folder / "out.json"))
         self.assertEqual(summary, {"packages": 1, "classes": 2, "interfaces": 0, "attributes": 1,
                                    "operations": 1, "arguments": 1, "diagrams": 0})
 
     def test_timing_tells_the_phases_in_text_and_json(self):
         phases = ["tokenise", "objects", "link", "extension", "convert", "finish", "save", "release"]
-        lines = self.kyr("import", SMALL, "--timing").output.splitlines()[2:]
+        lines = self.kyr("import", SMALL, "--timing").output.splitlines()[-8:]
         self.assertEqual([line.split()[-1] for line in lines], phases)
         for line in lines:
             self.assertRegex(line, r"^ *\d+\.\d{3} s  [a-z]+$")
@@ -384,6 +386,12 @@ class Trace(CommandTest):
                 result = self.kyr("import", small, "--log-file", "log", "--trace", trace)
                 self.assertEqual(result.code, WRONG_USAGE)
                 self.assertIn("KYRHOST_F0060", result.errors)
+
+    def test_it_is_of_one_file(self):
+        files = [self.write(name, model_text()) for name in ("a.xmi", "b.xmi")]
+        result = self.kyr("import", *files, "--trace", "t.jsonl")
+        self.assertEqual(result.code, WRONG_USAGE)
+        self.assertIn("KYRHOST_F0061", result.errors)
 
     def test_a_folder_that_is_not_there_is_an_error_before_the_import(self):
         result = self.kyr("import", self.write("small.xmi", model_text()), "--trace", "no/t.jsonl")

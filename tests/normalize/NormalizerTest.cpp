@@ -1,11 +1,16 @@
 // The step as a whole: what it leaves alone, the order of its rules, positions, and what it costs.
 #include "normalize/Normalizer.h"
 
+#include <fstream>
+#include <map>
+
 #include "foundation/KYRDOM.h"
 #include "normalize/AttributeOrderRule.h"
 #include "normalize/DeclaredTypeRule.h"
 #include "normalize/ScalarElementRule.h"
 #include "tests/normalize/NormalizedFile.h"
+#include "uml/UMLCast.h"
+#include "uml/UMLClasses.h"
 #include "xmi/XMIParser.h"
 
 namespace {
@@ -103,6 +108,36 @@ TEST(Normalizer, StreamAndTreesReadTheSame) {
   ASSERT_NE(root->getFirstElement("uml:Model"), nullptr);
   EXPECT_EQ(root->getFirstElement("uml:Model")->getElementCount("packagedElement"), 2);
   EXPECT_EQ(parser.getObjects().getCount(), 3U);
+}
+
+// The name of the type is an element there, which a step would turn into an attribute.
+TEST(Normalizer, AModuleIsReadAsWrittenEvenWhenItIsTheInput) {
+  const TemporaryFile file("");
+  const std::string module = file.path.substr(file.path.rfind('/') + 1);
+  std::ofstream(file.path) << xmi(
+      element("Class", "xmi:id='c' name='C'",
+              "<ownedAttribute xmi:type='uml:Property' xmi:id='a' name='a'><type href='" + module +
+                  "#t'/></ownedAttribute><ownedAttribute xmi:type='uml:Property' xmi:id='b' name='b'><type "
+                  "href='" +
+                  module + "#u'/></ownedAttribute>") +
+      element("PrimitiveType", "xmi:id='t'", "<name>Money</name>") +
+      element("PrimitiveType", "xmi:id='u' name='Weight'"));
+  DispatchRows::resetForTests();
+  Normalizer normalizer(fileName);
+  const XmlRewriting rewriting(file.file(), normalizer);
+  RecordingLog log;
+  XMIParser parser(&log);
+  parser.parse(file.file());
+  EXPECT_EQ(normalizer.getReport().of(NormalizeRule::scalarElement).fired, 1U);
+  std::map<std::string, std::string> types;
+  for (unsigned int i = 0; i < parser.getObjects().getSlotCount(); ++i) {
+    const auto* const property = umlCast<UMLProperty>(parser.getObjects().at(i));
+    if (property == nullptr) continue;
+    types[std::string(property->id.view())] =
+        property->type == nullptr ? "none" : std::string(property->type->name.view());
+  }
+  EXPECT_EQ(types["a"], "none");
+  EXPECT_EQ(types["b"], "Weight");
 }
 
 // Visited elements, for files of a shape: n elements, or twice as many.

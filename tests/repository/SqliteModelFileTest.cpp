@@ -51,7 +51,7 @@ TEST_F(SqliteModelFile, AFullDiskLeavesWhatWasThere) {
     EXPECT_THAT(failureOf([this] {
                   saveStoreModelFile(file("m.sqlite"), *makeFullModel(), StoreModelFormat::sqlite);
                 }),
-                testing::HasSubstr("The model cannot be saved to '" + path("m.sqlite") + "': "));
+                testing::HasSubstr("The file '" + path("m.sqlite") + "' cannot be saved: "));
   }
   EXPECT_EQ(content("m.sqlite"), "old");
   EXPECT_EQ(filesInFolder(), 1U);
@@ -60,7 +60,7 @@ TEST_F(SqliteModelFile, AFullDiskLeavesWhatWasThere) {
 TEST_F(SqliteModelFile, AnAppendThatFailsLeavesNothingWhereNothingWas) {
   {
     const LimitedFiles limit(20000);
-    EXPECT_THAT(failureOf([this] { append(); }), testing::HasSubstr("The model cannot be saved to"));
+    EXPECT_THAT(failureOf([this] { append(); }), testing::HasSubstr("cannot be saved: "));
   }
   EXPECT_LE(filesInFolder(), 1U);  // an empty database at most, which the next append fills
   append();
@@ -73,7 +73,7 @@ TEST_F(SqliteModelFile, AnAppendThatFailsLeavesNothingWhereNothingWas) {
   {
     const LimitedFiles limit(static_cast<rlim_t>(before.size()));
     EXPECT_THAT(failureOf([&] { appendStoreModelFile(file("m.sqlite"), *other); }),
-                testing::HasSubstr("The model cannot be saved to"));
+                testing::HasSubstr("cannot be saved: "));
   }
   EXPECT_EQ(ask("SELECT count(*) FROM models; PRAGMA integrity_check"), "1\nok");
   EXPECT_EQ(filesInFolder(), 1U);
@@ -81,7 +81,7 @@ TEST_F(SqliteModelFile, AnAppendThatFailsLeavesNothingWhereNothingWas) {
 
 TEST_F(SqliteModelFile, OnlyRegularFilesAreTargets) {
   EXPECT_EQ(failureOf([] { appendStoreModelFile(KYRFile("/dev/null"), KYRStoreModel()); }),
-            "[KYRSTD_F0121] The model cannot be saved to '/dev/null': it is not a regular file");
+            "[KYRSTD_F0121] The file '/dev/null' cannot be saved: it is not a regular file");
   EXPECT_THAT(failureOf([this] { appendStoreModelFile(file("no/m.sqlite"), KYRStoreModel()); }),
               testing::HasSubstr("unable to open database file"));
 }
