@@ -66,7 +66,9 @@ def check_installed(root, source):
     expect("classes 6" in output, f"the installed kyr says {output}")
     saved.unlink()
     for part in ("lib/libkyr.so", "lib/cmake/kyr/kyrConfig.cmake", "include/kyr/foundation/KYRString.h",
-                 "lib/kyr/libKYROmgUml2XmiImport.so", "share/doc/kyr/guide.md"):
+                 "lib/kyr/libKYROmgUml2XmiImport.so", "share/doc/kyr/guide.md",
+                 "share/man/man1/kyr-import.1", "share/bash-completion/completions/kyr",
+                 "share/doc/kyr/examples/host/list_classes.cpp"):
         expect((usr / part).exists(), f"{part} is not installed")
 
 
