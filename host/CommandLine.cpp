@@ -50,6 +50,8 @@ int perform(const CommandRequest& request, Tools& tools) {
       return ExitCode::done;
     case Kind::normalize:
       return NormalizeCommand(request.normalize, tools.output, tools.log).run();
+    case Kind::report:
+      return ReportCommand(request.report, tools.output, tools.log).run();
     case Kind::diff:
       return DiffCommand(request.diff, tools.output).run();
     case Kind::answer:

@@ -54,6 +54,7 @@ class Definition {
   void defineInspect();
   void defineDiagram();
   void defineDiff();
+  void defineReport();
   void defineNormalize();
   static void addNormalize(CLI::App& command, NormalizeChoice& choice);
   static CLI::Option& addPlugin(CLI::App& command, std::string& path);
@@ -75,6 +76,7 @@ Definition::Definition(CommandRequest& request)
   defineInfo();
   defineInspect();
   defineDiagram();
+  defineReport();
   defineDiff();
   defineNormalize();
 }
@@ -166,6 +168,15 @@ void Definition::defineDiagram() {
   command.add_option("-o,--output", settings.folder, textOf(DIAGRAM_HELP_OUTPUT))->type_name("FOLDER");
 }
 
+void Definition::defineReport() {
+  using namespace KYRHostTexts;
+  CLI::App& command = addCommand("report", REPORT_HELP, REPORT_HELP_EXAMPLES);
+  command.add_option("FILE", request_.report.file, textOf(REPORT_HELP_FILE))->required()->type_name("");
+  command.add_option("-o,--output", request_.report.output, textOf(REPORT_HELP_OUTPUT))
+      ->type_name("PATH")
+      ->check(CLI::Validator(checkName, ""));
+}
+
 void Definition::defineDiff() {
   using namespace KYRHostTexts;
   CLI::App& command = addCommand("diff", DIFF_HELP, DIFF_HELP_EXAMPLES);
@@ -225,6 +236,7 @@ void Definition::read(int argumentCount, const char* const* arguments) {
                   : app_.got_subcommand("diff")      ? Kind::diff
                   : app_.got_subcommand("info")      ? Kind::info
                   : app_.got_subcommand("diagram")   ? Kind::diagram
+                  : app_.got_subcommand("report")    ? Kind::report
                   : app_.got_subcommand("normalize") ? Kind::normalize
                                                      : Kind::inspect;
 }

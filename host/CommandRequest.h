@@ -9,6 +9,7 @@
 #include "host/InfoCommand.h"
 #include "host/InspectCommand.h"
 #include "host/NormalizeCommand.h"
+#include "host/ReportCommand.h"
 
 struct CommandRequest {
   enum class Kind {
@@ -18,6 +19,7 @@ struct CommandRequest {
     diagram,
     normalize,
     diff,
+    report,
     answer,      // help or version: `text` is to be printed
     wrongUsage,  // `text` says why, and `command` which words were understood
   };
@@ -29,6 +31,7 @@ struct CommandRequest {
   DiagramCommand::Settings diagram;
   NormalizeCommand::Settings normalize;
   DiffCommand::Settings diff;
+  ReportCommand::Settings report;
   std::string encoding;  // empty: as each file says
   std::string text;
   std::string command;  // "kyr", "kyr import"

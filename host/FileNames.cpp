@@ -27,6 +27,13 @@ std::string nameOf(StoreModelFormat format) {
   return {};
 }
 
+std::string withExtension(const std::string& input, const std::string& output, const std::string& extension) {
+  const fs::path name = fs::path(input).filename().replace_extension("." + extension);
+  if (output.empty()) return name;
+  std::error_code failure;
+  return fs::is_directory(output, failure) ? (fs::path(output) / name).string() : output;
+}
+
 }  // namespace
 
 std::optional<StoreModelFormat> FileNames::findFormat(const std::string& name) {
@@ -55,10 +62,11 @@ std::string FileNames::missingFolderOf(const std::string& file) {
 
 std::string FileNames::outputOf(const std::string& input, const std::string& output,
                                 StoreModelFormat format) {
-  const fs::path name = fs::path(input).filename().replace_extension("." + nameOf(format));
-  if (output.empty()) return name;
-  std::error_code failure;
-  return fs::is_directory(output, failure) ? (fs::path(output) / name).string() : output;
+  return withExtension(input, output, nameOf(format));
+}
+
+std::string FileNames::pageOf(const std::string& input, const std::string& output) {
+  return withExtension(input, output, "html");
 }
 
 bool FileNames::isSame(const std::string& first, const std::string& second) {

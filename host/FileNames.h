@@ -12,6 +12,9 @@ namespace FileNames {
 /// file stands in the current folder. The extension of the input's name is replaced by that of the format.
 std::string outputOf(const std::string& input, const std::string& output, StoreModelFormat format);
 
+/// The same for the page of a model, with the extension "html".
+std::string pageOf(const std::string& input, const std::string& output);
+
 /// The format that a file of that name has by its extension: ".sqlite", ".sqlite3" or ".sql"; JSON else.
 StoreModelFormat formatOf(const std::string& output);
 

@@ -16,8 +16,10 @@
 
 ImportBatch::ImportBatch(ImportCommand::Settings settings, Output& output, HostLog& log)
     : settings_(std::move(settings)),
+      files_(std::move(settings_.files)),
       log_(log),
-      report_(settings_.isQuiet, settings_.format, settings_.files.size(), output, log) {
+      report_(settings_.isQuiet, settings_.format, files_.size(), output, log) {
+  settings_.files.clear();
   if (settings_.jobs == 0) settings_.jobs = std::max(1U, std::thread::hardware_concurrency());
 }
 
@@ -29,10 +31,9 @@ ImportBatch::~ImportBatch() {
 int ImportBatch::run() {
   if (isWrongUsage()) return ExitCode::wrongUsage;
   if (!settings_.logFile.empty()) log_.openFile(settings_.logFile);
-  for (const std::string& file : settings_.files) {
+  for (const std::string& file : files_) {
     ImportCommand::Settings settings = settings_;
     settings.file = file;
-    settings.files.clear();
     children_.push_back(std::make_unique<ImportChild>(std::move(settings)));
   }
   holdSignals();
@@ -49,7 +50,7 @@ int ImportBatch::run() {
 
 bool ImportBatch::isWrongUsage() {
   if (!settings_.traceFile.empty()) {
-    log_.fail(KYRHostMessages::TRACE_IS_OF_ONE_FILE.getMessage());
+    log_.fail(KYRHostMessages::TRACE_OF_ONE_FILE.getMessage());
     return true;
   }
   std::error_code failure;
@@ -64,8 +65,8 @@ bool ImportBatch::isWrongUsage() {
 bool ImportBatch::outputsClash() {
   std::map<std::string, std::string> inputs;
   std::map<std::string, std::string> outputs;
-  for (const std::string& file : settings_.files) inputs.emplace(FileNames::identityOf(file), file);
-  for (const std::string& file : settings_.files) {
+  for (const std::string& file : files_) inputs.emplace(FileNames::identityOf(file), file);
+  for (const std::string& file : files_) {
     ImportCommand::Settings settings = settings_;
     settings.file = file;
     const std::string target = ImportCommand::targetOf(settings);
@@ -98,14 +99,16 @@ void ImportBatch::holdSignals() {
 }
 
 void ImportBatch::startSome() {
-  for (; started_ < children_.size() && running_ < settings_.jobs; ++started_, ++running_) {
-    children_[started_]->start(before_);
+  for (; started_ < children_.size() && running_.size() < settings_.jobs; ++started_) {
+    ImportChild& child = *children_[started_];
+    child.start(before_);
+    running_.emplace(child.getProcess(), &child);
   }
   report_.showProgress(finished_);
 }
 
 void ImportBatch::await() {
-  if (running_ == 0) return;
+  if (running_.empty()) return;
   const int signal = sigwaitinfo(&awaited_, nullptr);
   if (signal > 0 && signal != SIGCHLD) {
     stopChildren();
@@ -115,22 +118,18 @@ void ImportBatch::await() {
   // One SIGCHLD can stand for several children.
   int status = 0;
   for (pid_t process = 0; (process = waitpid(-1, &status, WNOHANG)) > 0;) {
-    const auto child =
-        std::find_if(children_.begin(), children_.begin() + static_cast<std::ptrdiff_t>(started_),
-                     [process](const auto& one) { return one->getProcess() == process; });
-    if (child == children_.begin() + static_cast<std::ptrdiff_t>(started_)) continue;
-    (*child)->finish(status);
-    --running_;
+    const auto child = running_.find(process);
+    if (child == running_.end()) continue;
+    child->second->finish(status);
+    running_.erase(child);
     ++finished_;
   }
 }
 
 void ImportBatch::stopChildren() noexcept {
-  for (const auto& child : children_) {
-    if (child->getProcess() > 0) kill(child->getProcess(), SIGTERM);
-  }
-  for (const auto& child : children_) {
-    while (child->getProcess() > 0 && waitpid(child->getProcess(), nullptr, 0) < 0 && errno == EINTR) {
+  for (const auto& [process, child] : running_) kill(process, SIGTERM);
+  for (const auto& [process, child] : running_) {
+    while (waitpid(process, nullptr, 0) < 0 && errno == EINTR) {
     }
   }
 }

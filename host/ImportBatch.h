@@ -3,7 +3,9 @@
 #pragma once
 
 #include <csignal>
+#include <map>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "host/ImportChild.h"
@@ -31,6 +33,7 @@ class ImportBatch {
   void tellFinished();
 
   ImportCommand::Settings settings_;
+  std::vector<std::string> files_;
   HostLog& log_;
   ImportReport report_;
   std::vector<std::unique_ptr<ImportChild>> children_;
@@ -38,7 +41,7 @@ class ImportBatch {
   sigset_t awaited_ = {};
   bool areSignalsHeld_ = false;
   std::size_t started_ = 0;
-  std::size_t running_ = 0;
+  std::map<pid_t, ImportChild*> running_;
   std::size_t finished_ = 0;
   std::size_t told_ = 0;
 };

@@ -134,6 +134,23 @@ const HostText<0> DIAGRAM_HELP_NAME("DIAGRAM_HELP_NAME", "Draw only the diagrams
 const HostText<0> DIAGRAM_HELP_OUTPUT("DIAGRAM_HELP_OUTPUT",
                                       "The folder to write into; without it the current one");
 
+const HostText<0> REPORT_HELP(
+    "REPORT_HELP",
+    "Write a saved model as one HTML file to look at in a browser.\n"
+    "\n"
+    "FILE is what 'kyr import' has written. The page holds everything and needs no network: a\n"
+    "tree of packages, a page for each package, class, type, schema and diagram, and a search\n"
+    "over names and descriptions. A file that is there already is replaced.");
+const HostText<0> REPORT_HELP_EXAMPLES("REPORT_HELP_EXAMPLES",
+                                       "Examples:\n"
+                                       "  kyr report shop.json                    writes shop.html here\n"
+                                       "  kyr report shop.json -o pages/          writes pages/shop.html");
+const HostText<0> REPORT_HELP_FILE("REPORT_HELP_FILE", "The saved model");
+const HostText<0> REPORT_HELP_OUTPUT(
+    "REPORT_HELP_OUTPUT",
+    "The file to write, or a folder to write it in. Without it: the name of the model with the "
+    "extension .html, in the current folder");
+
 const HostText<0> NORMALIZE_HELP(
     "NORMALIZE_HELP",
     "Write a model file as 'kyr import --normalize' would read it.\n"

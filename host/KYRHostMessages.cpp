@@ -51,6 +51,8 @@ const HostMessage<1> KYRHostMessages::NO_DIAGRAMS(16, fatal, "The model in '{0}'
 const HostMessage<2> KYRHostMessages::NO_SUCH_DIAGRAM(17, fatal,
                                                       "The model in '{0}' has no class diagram named '{1}'");
 
+const HostMessage<1> KYRHostMessages::PAGE_IS_MODEL(
+    50, fatal, "The page would be written over the model '{0}'; '-o' names another file");
 const HostMessage<2> KYRHostMessages::NO_FOLDER(
     30, fatal, "The model cannot be written to '{0}': there is no folder '{1}'");
 const HostMessage<0> KYRHostMessages::APPEND_NEEDS_SQLITE(
@@ -80,8 +82,8 @@ const HostMessage<1> KYRHostMessages::NORMALIZED_IS_INPUT(
 const HostMessage<1> KYRHostMessages::TRACE_IS_OTHER_FILE(
     60, fatal,
     "The trace '{0}' would be written over the file that is to be imported, the model or the log file");
-const HostMessage<0> KYRHostMessages::TRACE_IS_OF_ONE_FILE(61, fatal,
-                                                           "'--trace' is for the import of one file");
+const HostMessage<0> KYRHostMessages::TRACE_OF_ONE_FILE(
+    61, fatal, "'--trace' tells of the import of one file; several are named");
 
 KYRHostMessages::KYRHostMessages() : KYRTextLiteralsCollection("kyr", HostLiterals::catalogueName) {
   for (KYRTextLiteral* literal : entered()) add(literal);

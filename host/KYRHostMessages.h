@@ -30,6 +30,8 @@ class KYRHostMessages final : public KYRTextLiteralsCollection {
   // Diagrams.
   static const HostMessage<1> NO_DIAGRAMS;
   static const HostMessage<2> NO_SUCH_DIAGRAM;
+  // The page of a model.
+  static const HostMessage<1> PAGE_IS_MODEL;
   // The output of an import.
   static const HostMessage<2> NO_FOLDER;
   static const HostMessage<0> APPEND_NEEDS_SQLITE;
@@ -46,7 +48,7 @@ class KYRHostMessages final : public KYRTextLiteralsCollection {
   static const HostMessage<1> FILE_HAS_WARNINGS;
   // The trace of an import.
   static const HostMessage<1> TRACE_IS_OTHER_FILE;
-  static const HostMessage<0> TRACE_IS_OF_ONE_FILE;
+  static const HostMessage<0> TRACE_OF_ONE_FILE;
   // What should not happen.
   static const HostMessage<0> OUT_OF_MEMORY;
   static const HostMessage<1> UNEXPECTED_ERROR;

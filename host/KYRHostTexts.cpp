@@ -30,6 +30,7 @@ const HostText<2> BATCH_SUM("BATCH_SUM", "files: {0}, failed: {1}");
 const HostText<2> BATCH_PROGRESS("BATCH_PROGRESS", "{0} of {1} files done");
 
 const HostText<1> DIAGRAM_WRITTEN("DIAGRAM_WRITTEN", "Wrote '{0}'");
+const HostText<1> REPORT_WRITTEN("REPORT_WRITTEN", "Wrote '{0}'");
 
 const HostText<0> DIFF_EQUAL("DIFF_EQUAL", "The models are equal");
 const HostText<2> DIFF_REMOVED("DIFF_REMOVED", "removed {0} {1}");

@@ -50,6 +50,11 @@ extern const HostText<0> DIAGRAM_HELP_FILE;
 extern const HostText<0> DIAGRAM_HELP_NAME;
 extern const HostText<0> DIAGRAM_HELP_OUTPUT;
 
+extern const HostText<0> REPORT_HELP;
+extern const HostText<0> REPORT_HELP_EXAMPLES;
+extern const HostText<0> REPORT_HELP_FILE;
+extern const HostText<0> REPORT_HELP_OUTPUT;
+
 extern const HostText<0> NORMALIZE_HELP;
 extern const HostText<0> NORMALIZE_HELP_EXAMPLES;
 extern const HostText<0> NORMALIZE_HELP_FILE;
@@ -128,6 +133,8 @@ extern const HostText<2> BATCH_PROGRESS;
 
 /// One line of `kyr diagram` for each picture.
 extern const HostText<1> DIAGRAM_WRITTEN;
+/// The line of `kyr report`.
+extern const HostText<1> REPORT_WRITTEN;
 
 // The lines of `kyr diff`.
 extern const HostText<0> DIFF_EQUAL;

@@ -6,8 +6,12 @@
 #include "repository/drawing/SvgDocument.h"
 
 std::string drawSvg(const KYRClassDiagram& diagram) {
+  return drawSvg(diagram, [](const KYRModelObject&) { return std::string(); });
+}
+
+std::string drawSvg(const KYRClassDiagram& diagram, const DrawnLinks& links) {
   SvgDocument document;
-  DrawnBoxes boxes(document, diagram);
+  DrawnBoxes boxes(document, diagram, links);
   boxes.draw();
   DrawnLines(document, boxes, diagram).draw();
   return document.finish(diagram.getName().view());

@@ -1,6 +1,7 @@
 // Drawing a class diagram.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "repository/model/KYRClassDiagram.h"
@@ -14,3 +15,9 @@
 /// line without points joins its boxes. Any content gives a valid document; very long texts, and very
 /// long lists of features, are cut off. Raises std::bad_alloc only.
 KYR_EXPORT std::string drawSvg(const KYRClassDiagram& diagram);
+
+/// The address that a box is a link to; empty for a box that is none.
+using DrawnLinks = std::function<std::string(const KYRModelObject& subject)>;
+
+/// The same, with boxes that are links.
+KYR_EXPORT std::string drawSvg(const KYRClassDiagram& diagram, const DrawnLinks& links);

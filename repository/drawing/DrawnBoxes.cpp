@@ -76,8 +76,8 @@ double fontSizeOf(const KYRPresentationElement& shape) {
   return shape.fontSize > 0 ? std::min<double>(shape.fontSize, largestFontSize) : defaultFontSize;
 }
 
-DrawnBoxes::DrawnBoxes(SvgDocument& document, const KYRClassDiagram& diagram)
-    : document_(document), diagram_(diagram) {
+DrawnBoxes::DrawnBoxes(SvgDocument& document, const KYRClassDiagram& diagram, const DrawnLinks& links)
+    : document_(document), diagram_(diagram), links_(links) {
   for (const KYRPresentationElement* shape : diagram.diagramElements) {
     if (!isBox(*shape)) continue;
     all_.push_back(boxOf(*shape));
@@ -92,7 +92,11 @@ const DrawnBox* DrawnBoxes::find(const KYRModelObject* object) const {
 
 void DrawnBoxes::draw() {
   for (const KYRPresentationElement* shape : diagram_.diagramElements) {
-    if (isBox(*shape)) drawBox(dynamic_cast<const KYRProjection&>(*shape), boxOf(*shape));
+    if (!isBox(*shape)) continue;
+    const std::string link = links_(*shape->subject);
+    if (!link.empty()) document_.beginLink(link);
+    drawBox(dynamic_cast<const KYRProjection&>(*shape), boxOf(*shape));
+    if (!link.empty()) document_.endLink();
   }
 }
 

@@ -4,13 +4,14 @@
 #include <unordered_map>
 #include <vector>
 
+#include "repository/drawing/ClassDiagramDrawing.h"
 #include "repository/drawing/SvgDocument.h"
 #include "repository/model/KYRClassDiagram.h"
 #include "repository/model/KYRProjection.h"
 
 class DrawnBoxes {
  public:
-  DrawnBoxes(SvgDocument& document, const KYRClassDiagram& diagram);
+  DrawnBoxes(SvgDocument& document, const KYRClassDiagram& diagram, const DrawnLinks& links);
   void draw();
   /// The first box of the object; null when there is none.
   const DrawnBox* find(const KYRModelObject* object) const;
@@ -22,6 +23,7 @@ class DrawnBoxes {
 
   SvgDocument& document_;
   const KYRClassDiagram& diagram_;
+  const DrawnLinks& links_;
   std::vector<DrawnBox> all_;
   std::unordered_map<const KYRModelObject*, DrawnBox> boxes_;
 };

@@ -164,6 +164,15 @@ void SvgDocument::endClip() {
   isClipping_ = false;
 }
 
+void SvgDocument::beginLink(std::string_view address) {
+  body_ += "<a xlink:href=\"";
+  appendEscaped(body_, address);
+  body_ += "\">\n";
+  hasLinks_ = true;
+}
+
+void SvgDocument::endLink() { body_ += "</a>\n"; }
+
 std::string SvgDocument::finish(std::string_view title) {
   const double width = bounds_.width() + 2 * margin;
   const double height = bounds_.height() + 2 * margin;
@@ -171,6 +180,7 @@ std::string SvgDocument::finish(std::string_view title) {
   std::string document =
       "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
       "<svg xmlns=\"http://www.w3.org/2000/svg\" version=\"1.1\"";
+  if (hasLinks_) document += " xmlns:xlink=\"http://www.w3.org/1999/xlink\"";
   appendAttribute(document, "width", std::max(width * scale, 1.0));
   appendAttribute(document, "height", std::max(height * scale, 1.0));
   document += " viewBox=\"";

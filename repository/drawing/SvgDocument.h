@@ -34,6 +34,9 @@ class KYR_EXPORT SvgDocument {
   /// Until `endClip` nothing outside the box can be seen. Not to be nested.
   void beginClip(const DrawnBox& box);
   void endClip();
+  /// Until `endLink` what is drawn leads to the address. Not to be nested.
+  void beginLink(std::string_view address);
+  void endLink();
   /// The whole document. The object is not to be used any more.
   std::string finish(std::string_view title);
 
@@ -49,5 +52,6 @@ class KYR_EXPORT SvgDocument {
   unsigned int clipCount_ = 0;
   bool isClipping_ = false;
   bool isEmpty_ = true;
+  bool hasLinks_ = false;
   DrawnBox bounds_;
 };

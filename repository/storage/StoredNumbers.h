@@ -5,12 +5,14 @@
 
 #include "repository/model/KYRStoreModel.h"
 
-class StoredNumbers {
+class KYR_EXPORT StoredNumbers {
  public:
   /// Numbers all that the model holds, from 1. The model must not change while the numbers are used.
   explicit StoredNumbers(const KYRStoreModel& model);
   /// 0 for null and for an object that the model does not hold.
   unsigned int get(const KYRObject* object) const noexcept;
+  /// The object of a number from 1 to `getCount()`.
+  const KYRObject* at(unsigned int number) const { return objects_[number - 1]; }
   unsigned int getCount() const noexcept { return static_cast<unsigned int>(objects_.size()); }
 
  private:

@@ -38,7 +38,9 @@ LAYERS = {
     "bridge": CONVERSION | {"trace"},
     # What a host may do to a file before it is read.
     "normalize": READER,
-    "host": FOUNDATION | {"repository", "normalize"},
+    # A saved model as a page; the page's own files stand in report/page.
+    "report": FOUNDATION | {"repository"},
+    "host": FOUNDATION | {"repository", "normalize", "report"},
 }
 
 # The upward edges that are meant: the files that have one, and what they may include by it.

@@ -27,6 +27,11 @@ def large_text():
 
 
 class Batch(CommandTest):
+    def test_a_trace_is_of_one_file(self):
+        result = self.kyr("import", SMALL, SMALL, "--trace", "t.jsonl")
+        self.assertFails(result, WRONG_USAGE, "[KYRHOST_F0061] ")
+        self.assertEqual(self.names(), ["a.xmi", "b.xmi", "c.xmi"])
+
     def setUp(self):
         super().setUp()
         for name in "abc":

@@ -1,0 +1,26 @@
+// ReportCommand: `kyr report`, a saved model as a page for a browser.
+#pragma once
+
+#include <string>
+
+#include "host/HostLog.h"
+#include "host/Output.h"
+
+class ReportCommand {
+ public:
+  struct Settings {
+    std::string file;    // a saved model
+    std::string output;  // empty: the name of the model, in the current folder
+  };
+
+  ReportCommand(Settings settings, Output& output, HostLog& log)
+      : settings_(std::move(settings)), output_(output), log_(log) {}
+  /// The exit code. Raises KYRException when the model cannot be read or the page not be written; the
+  /// file is as it was then.
+  int run();
+
+ private:
+  Settings settings_;
+  Output& output_;
+  HostLog& log_;
+};
