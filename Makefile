@@ -14,7 +14,7 @@ sample := samples/plain.xmi
 imported := out/plain.json
 drawn := samples/magicdraw-diagrams.xmi
 
-.PHONY: help build run test soak fuzz lint format bench clean deps-%
+.PHONY: help build run test soak fuzz lint format bench packages clean deps-%
 
 help: ## List the commands
 	@grep -hE '^[a-z]+:.*## ' $(MAKEFILE_LIST) | sed -E 's/^([a-z]+):.*## (.*)/  make \1\t\2/' | expand -t 16
@@ -61,6 +61,9 @@ format: deps-lint ## Rewrite all sources with clang-format
 
 bench: deps-bench build ## Print time and memory of imports of 1, 10 and 100 MB
 	python3 bench/run_bench.py build/release
+
+packages: deps-packages build ## Build the Debian packages into out/packages, and install and try them in a folder
+	python3 tests/package/check_debian.py cpack build/release . out/packages
 
 clean: ## Remove everything that was built
 	rm -rf build out

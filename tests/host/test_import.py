@@ -387,6 +387,12 @@ class Trace(CommandTest):
                 self.assertEqual(result.code, WRONG_USAGE)
                 self.assertIn("KYRHOST_F0060", result.errors)
 
+    def test_it_is_of_one_file(self):
+        files = [self.write(name, model_text()) for name in ("a.xmi", "b.xmi")]
+        result = self.kyr("import", *files, "--trace", "t.jsonl")
+        self.assertEqual(result.code, WRONG_USAGE)
+        self.assertIn("KYRHOST_F0061", result.errors)
+
     def test_a_folder_that_is_not_there_is_an_error_before_the_import(self):
         result = self.kyr("import", self.write("small.xmi", model_text()), "--trace", "no/t.jsonl")
         self.assertEqual(result.code, FAILED)

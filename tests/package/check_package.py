@@ -3,7 +3,7 @@
 
 The installed `kyr` imports a sample with the installed plug-in, also after the whole tree has been
 moved; a small program finds the package by find_package(kyr), loads the saved model and saves it
-again with the same bytes.
+again with the same bytes; and the example of a host is built and run in the same way.
 
     check_package.py CMAKE BUILD_FOLDER SOURCE_FOLDER COMPILER [COMPILER_FLAG...]
 """
@@ -39,14 +39,18 @@ def main(cmake, build, source, compiler, *flags):
         run(kyr, "import", os.path.join(source, "samples", "plain.xmi"), "-o", saved)
         expect(os.path.getsize(saved) > 0, "the installed kyr saved an empty model")
 
-        consumer = os.path.join(scratch, "consumer")
-        run(
-            cmake, "-S", os.path.join(source, "tests", "package", "consumer"), "-B", consumer,
-            f"-DCMAKE_PREFIX_PATH={prefix}", f"-DCMAKE_CXX_COMPILER={compiler}", f"-DCMAKE_CXX_FLAGS={' '.join(flags)}",
-        )
-        run(cmake, "--build", consumer)
+        def build_against_it(project, name):
+            folder = os.path.join(scratch, name)
+            run(
+                cmake, "-S", os.path.join(source, project), "-B", folder, f"-DCMAKE_PREFIX_PATH={prefix}",
+                f"-DCMAKE_CXX_COMPILER={compiler}", f"-DCMAKE_CXX_FLAGS={' '.join(flags)}",
+            )
+            run(cmake, "--build", folder)
+            return os.path.join(folder, name)
+
+        consumer = build_against_it(os.path.join("tests", "package", "consumer"), "consumer")
         again = os.path.join(scratch, "again.json")
-        output = run(os.path.join(consumer, "consumer"), saved, again)
+        output = run(consumer, saved, again)
         with open(saved, "rb") as file, open(again, "rb") as other:
             expect(file.read() == other.read(), "a loaded model was saved with other bytes")
         plugins = output.removeprefix("plug-ins: ").strip()
@@ -54,6 +58,11 @@ def main(cmake, build, source, compiler, *flags):
             os.path.isfile(os.path.join(plugins, "libKYROmgUml2XmiImport.so")),
             f"the package names {plugins} as the folder of plug-ins, and the plug-in is not there",
         )
+
+        example = build_against_it(os.path.join("examples", "host"), "list_classes")
+        output = run(example, os.path.join(source, "samples", "plain.xmi"), os.path.join(scratch, "example.json"))
+        expect("lost: 65\n" in output, f"the example counts other losses:\n{output}")
+        expect("\nSky/CelestialBody\n  name: String\n" in output, f"the example lists other classes:\n{output}")
 
 
 if __name__ == "__main__":
