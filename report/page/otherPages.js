@@ -100,6 +100,8 @@ function picture(diagram) {
   }
   // What is read out is the label; a title inside would be a second one, shown over every box.
   for (const title of [...parsed.querySelectorAll("title")]) title.remove();
+  const boxes = parsed.querySelectorAll("rect").length - 1; // one is the ground
+  if (boxes < 1) return make("p", { class: "faint" }, "The import found no shapes of classes for this diagram.");
   parsed.setAttribute("role", "group");
   parsed.setAttribute("aria-label", "Diagram " + plain(shorten(nameOf(diagram), longestName)));
   return make("div", { class: "picture paper", tabindex: "0", role: "group", "aria-label": "Picture" }, document.importNode(parsed, true));

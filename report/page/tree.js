@@ -17,6 +17,8 @@ class Tree {
     this.top = make("ul", {});
     this.topList = fillList(this.top, model.root.designPackages || [], (package_) => this.makeEntry(package_));
     place.append(list, make("hr", {}), this.top, this.topList.button);
+    const packages = model.root.designPackages || [];
+    if (packages.length === 1) this.nodes.get(packages[0].id).open?.();
   }
 
   makeEntry(object) {
