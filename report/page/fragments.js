@@ -20,12 +20,12 @@ class Fragments {
 
   // A link and what kind of thing it leads to.
   entry(object) {
-    return [this.link(object), " ", make("span", { class: "chip" }, kindText(object)), this.firstLine(object)];
+    return [this.link(object), " ", make("span", { class: "chip" }, kindText(object)), this.beginning(object)];
   }
 
-  firstLine(object) {
-    const line = readable(object.description || "").trim().split("\n", 1)[0];
-    return line === "" ? null : make("span", { class: "faint" }, " ", shorten(line, 120));
+  beginning(object) {
+    const text = shorten(readable(object.description || "").trim(), 140).replace(/\s+/g, " ");
+    return text === "" ? null : make("span", { class: "faint" }, " ", text);
   }
 
   description(object) {

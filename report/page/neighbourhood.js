@@ -3,7 +3,7 @@
 // as high as its neighbours beside it need, so every line to them is straight and no two cross.
 
 const around = {
-  boxWidth: 180, boxHeight: 34, ownWidth: 220, rowHeight: 54, gap: 240, level: 64, mostAbove: 5, mostBeside: 8, mostAttributes: 8, lineHeight: 16,
+  boxWidth: 200, boxHeight: 34, ownWidth: 220, rowHeight: 54, gap: 280, level: 64, mostAbove: 5, mostBeside: 8, mostAttributes: 8, lineHeight: 16,
 };
 
 class Neighbourhood {
@@ -73,13 +73,13 @@ class Neighbourhood {
   drawOwn(attributes, leftOut) {
     const { own } = this;
     const group = draw("g", { class: "own" }, draw("rect", { x: own.x, y: own.y, width: own.width, height: own.height, rx: 4 }),
-      text(0, own.y + 22, fit(nameOf(this.class_), own.width - 16), "middle", "name"));
+      text(0, own.y + 22, fit(nameOf(this.class_), own.width - 16, "name"), "middle", "name"));
     let y = own.y + around.boxHeight + 17;
     if (attributes.length > 0) group.append(line(own.x, own.y + around.boxHeight, own.x + own.width, own.y + around.boxHeight));
     for (const attribute of attributes) {
       const type = this.fragments.model.get(attribute.type);
       const words = nameOf(attribute) + (type === undefined ? "" : ": " + nameOf(type));
-      group.append(text(own.x + 10, y, fit(words, own.width - 20), "start", ""));
+      group.append(text(own.x + 10, y, fit(words, own.width - 20, "plain"), "start", ""));
       y += around.lineHeight;
     }
     if (leftOut > 0) group.append(text(own.x + 10, y, leftOut + " more", "start", "label"));
@@ -89,8 +89,9 @@ class Neighbourhood {
   drawBox(neighbour, x, y) {
     const name = nameOf(neighbour.class_);
     this.shapes.push(draw("a", { href: "#" + this.fragments.addresses.of(neighbour.class_) },
+      draw("title", {}, shorten(name, longestName)),
       draw("rect", { x, y, width: around.boxWidth, height: around.boxHeight, rx: 4 }),
-      text(x + around.boxWidth / 2, y + 22, fit(name, around.boxWidth - 16), "middle", "name")));
+      text(x + around.boxWidth / 2, y + 22, fit(name, around.boxWidth - 12, "name"), "middle", "name")));
   }
 
   // Supertypes or subtypes: each with a line of its own to the class, the triangle at the supertype.
@@ -142,8 +143,8 @@ class Neighbourhood {
     const label = (x, role, opposite, anchor) => {
       // Where the opposite end says nothing its room is there to be taken.
       const roomFor = (field) => (opposite[field] ? around.gap / 2 - 24 : around.gap - 40);
-      if (role.name) this.shapes.push(text(x, y - 5, fit(role.name, roomFor("name")), anchor, "label"));
-      if (role.multiplicity) this.shapes.push(text(x, y + 13, fit(role.multiplicity, roomFor("multiplicity")), anchor, "label"));
+      if (role.name) this.shapes.push(text(x, y - 5, fit(role.name, roomFor("name"), "label"), anchor, "label"));
+      if (role.multiplicity) this.shapes.push(text(x, y + 13, fit(role.multiplicity, roomFor("multiplicity"), "label"), anchor, "label"));
     };
     const { role, other } = neighbour;
     label(near + side * 18, role, other, side > 0 ? "start" : "end");
@@ -168,11 +169,14 @@ function polyline(points, isDashed) {
   return draw("polyline", { points: points.join(" "), class: isDashed ? "dashed" : "" });
 }
 
-// As much of a text as fits the width, by what letters of that size need on average.
-function fit(content, width) {
+// As much of a text as fits the width, by what letters of that kind need on average.
+const letterWidths = { name: 7.6, label: 6.8, plain: 6.7 };
+const wideLetter = 12.5;
+
+function fit(content, width, kind) {
   let used = 0;
   for (let i = 0; i < content.length; ++i) {
-    used += content.charCodeAt(i) < 0x2e80 ? 6.9 : 12.5;
+    used += content.charCodeAt(i) < 0x2e80 ? letterWidths[kind] : wideLetter;
     if (used > width) return shorten(content, Math.max(i - 1, 1));
   }
   return content;

@@ -14,7 +14,7 @@ function packagePage(fragments, package_) {
     table("Associations", ofKind("association"), [
       ["Association", (association) => association.name && fragments.name(association)],
       ["Ends", (association) => association.roles && association.roles.map((role, index) => [index > 0 ? " \u2014 " : "", roleText(fragments, role)]), true],
-      ["Description", (association) => fragments.firstLine(association)],
+      ["Description", (association) => fragments.beginning(association)],
     ]),
     fragments.ending(package_),
   ];
@@ -32,7 +32,7 @@ function classTable(fragments, title, classes) {
     ["Kind", (class_) => kindText(class_) + (class_.isAbstract ? ", abstract" : "")],
     ["Attributes", (class_) => (class_.attributes || []).length || ""],
     ["Operations", (class_) => (class_.operations || []).length || ""],
-    ["Description", (class_) => fragments.firstLine(class_)],
+    ["Description", (class_) => fragments.beginning(class_)],
   ]);
 }
 
@@ -112,9 +112,9 @@ function typesPage(fragments) {
   const columns = [
     ["Name", (type) => fragments.link(type), true],
     ["Data type", (type) => dataTypeText(type)],
-    ["Native data type", (type) => type.nativeDataType],
+    ["Native data type", (type) => (type.nativeDataType !== type.name ? type.nativeDataType : "")],
     ["Values", (type) => (type.typeValues ? shorten(type.typeValues.slice(0, 8).map(nameOf).join(", "), 150) + (type.typeValues.length > 8 ? ", \u2026" : "") : "")],
-    ["Description", (type) => fragments.firstLine(type)],
+    ["Description", (type) => fragments.beginning(type)],
   ];
   return [
     make("h1", {}, "Types"),
@@ -127,7 +127,7 @@ function listPage(fragments, title, kind) {
   return [
     make("h1", {}, title),
     bulletList("All", fragments.model.ofKind(kind), (object) => [fragments.link(object),
-      object.owner !== fragments.model.root ? make("span", { class: "faint" }, " in ", fragments.link(object.owner)) : null, fragments.firstLine(object)]),
+      object.owner !== fragments.model.root ? make("span", { class: "faint" }, " in ", fragments.link(object.owner)) : null, fragments.beginning(object)]),
   ];
 }
 

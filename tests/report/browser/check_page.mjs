@@ -149,7 +149,7 @@ check("a model without diagrams has a picture around each class", async (page) =
     if (await page.locator(".around svg a").count() === 0) continue;
     ++pictures;
     const target = page.locator(".around svg a").first();
-    const name = await target.textContent();
+    const name = await target.locator("text").textContent();
     await target.click();
     assert.ok((await heading(page)).startsWith(name.replace("\u2026", "")), name);
   }
