@@ -37,6 +37,10 @@ fi
 
 missing=()
 for name in "${wanted[@]}"; do
+  # A node from elsewhere brings npm along, and the packages of Debian cannot stand beside it.
+  case $name in
+    nodejs | npm) ! command -v "${name%js}" > /dev/null || continue ;;
+  esac
   status=$(dpkg-query --show --showformat='${db:Status-Status}' "$name" 2> /dev/null || true)
   [[ $status == installed* ]] || missing+=("$name")
 done

@@ -30,6 +30,7 @@ class Neighbourhood {
     this.right = [];
     for (const { role, association, others } of model.associationsOf(class_)) {
       for (const other of others) {
+        if (other.associatedClass === class_.id && association.roles[0] !== role) continue; // seen from its first end
         const neighbour = { class_: model.get(other.associatedClass), role, other, association };
         if (neighbour.class_ !== undefined) (association.roles[0] === role ? this.right : this.left).push(neighbour);
       }

@@ -1,5 +1,7 @@
 // The tree of packages at the side. What a package holds is listed when it is opened.
 
+const deepestRevealed = 100; // lists in lists, which a browser lays out all at once
+
 class Tree {
   constructor(place, fragments) {
     this.fragments = fragments;
@@ -66,6 +68,7 @@ class Tree {
     }
     const way = [];
     for (let at = object; at.owner !== null; at = at.owner) way.push(at);
+    if (way.length > deepestRevealed) return undefined;
     let list = this.topList;
     for (const at of way.reverse()) {
       list.showUntil(at);

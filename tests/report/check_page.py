@@ -19,8 +19,9 @@ import tempfile
 SKIPPED = 77
 CHROMIUMS = ("chromium", "chromium-browser", "google-chrome", "google-chrome-stable")
 INSTALL_TIMEOUT = 150
-CHECK_TIMEOUT = 400
+CHECK_TIMEOUT = 540
 CLASSES = 20000
+DEPTH = 5000
 
 HOSTILE = "</script><script>hit()</script><img src=x onerror=hit()>\"'><svg onload=hit()>"
 TURNED = "user\u202etxt.exe\u2066\u200f"
@@ -146,6 +147,16 @@ def large_model(path):
     saved.write(path)
 
 
+def deep_model(path):
+    """Packages in packages, a class in the last. Written as text: the encoder would not go so deep."""
+    head = '{"format":"kyr-store-model","version":1,"designLevel":1,"storeType":3,"origins":[],"model":'
+    opening = "".join('{"id":%d,"class":"KYRDesignPackage","name":"P","elements":[' %
+                      (number + 2) for number in range(DEPTH))
+    class_ = '{"id":%d,"class":"KYRClass","name":"Bottom"}' % (DEPTH + 2)
+    path.write_text(head + '{"id":1,"class":"KYRStoreModel","name":"Deep","designPackages":[' + opening + class_ +
+                    "]}" * DEPTH + "]}}", encoding="utf-8")
+
+
 def make_pages(kyr, source, folder):
     def run(*arguments):
         subprocess.run([kyr, *map(str, arguments)], cwd=folder, check=True, stdin=subprocess.DEVNULL,
@@ -155,7 +166,8 @@ def make_pages(kyr, source, folder):
         run("import", source / "samples" / sample, "-q", "-o", f"{name}.json")
     hostile_model(folder / "hostile.json")
     large_model(folder / "large.json")
-    for name in ("wine", "plain", "database", "hostile", "large"):
+    deep_model(folder / "deep.json")
+    for name in ("wine", "plain", "database", "hostile", "large", "deep"):
         run("report", f"{name}.json")
 
 

@@ -187,10 +187,12 @@ check("light and dark follow the system and the button", async (page) => {
   assert.equal(await ground(), dark);
 });
 
-for (const colorScheme of ["light", "dark"]) {
+const everyPlace = [["wine", ""], ["wine", "package/Cellar"], ["wine", "class/Cellar/Vessel"], ["wine", "class/Cellar/Wine"],
+  ["wine", vessels], ["wine", "types"], ["wine", "diagrams"], ["wine", "class/Cellar/Vessel::capacity"], ["wine", "no/such"], ["database", "schemas"]];
+// The dark page differs in its colours alone.
+const darkPlaces = everyPlace.filter(([, hash]) => ["", "class/Cellar/Wine", "class/Cellar/Vessel::capacity"].includes(hash));
+for (const [colorScheme, places] of [["light", everyPlace], ["dark", darkPlaces]]) {
   check("nothing stands in the way of assistive technology, " + colorScheme, async (page) => {
-    const places = [["wine", ""], ["wine", "package/Cellar"], ["wine", "class/Cellar/Vessel"], ["wine", "class/Cellar/Wine"],
-      ["wine", vessels], ["wine", "types"], ["wine", "diagrams"], ["wine", "class/Cellar/Vessel::capacity"], ["wine", "no/such"], ["database", "schemas"]];
     for (const [name, hash] of places) {
       await open(page, name, hash);
       await assertAccessible(page, name + "#" + hash);
@@ -254,6 +256,17 @@ check("20,000 classes stay usable", async (page) => {
   await open(page, "large", "class/Part0/Class0");
   assert.ok(await page.evaluate(() => document.querySelectorAll("main *").length) < 4000);
   console.log(`  opened in ${opened - start} ms, found in ${searched - opened} ms`);
+});
+
+check("packages in packages may be as deep as they like", async (page) => {
+  await open(page, "deep");
+  await page.keyboard.press("/");
+  await page.keyboard.type("bottom");
+  await page.keyboard.press("Enter");
+  assert.equal(await heading(page), "Bottom");
+  await page.locator(".crumbs a").last().click();
+  assert.equal(await heading(page), "P");
+  assert.equal(await page.locator("main td a").innerText(), "Bottom");
 });
 
 async function run(browser, { name, work, options }) {
