@@ -13,7 +13,7 @@ sample := samples/plain.xmi
 imported := out/plain.json
 drawn := samples/magicdraw-diagrams.xmi
 
-.PHONY: help build run test lint format bench clean deps-%
+.PHONY: help build run test soak lint format bench clean deps-%
 
 help: ## List the commands
 	@grep -hE '^[a-z]+:.*## ' $(MAKEFILE_LIST) | sed -E 's/^([a-z]+):.*## (.*)/  make \1\t\2/' | expand -t 16
@@ -42,6 +42,11 @@ test: build ## Run all tests: release, then address, leak and undefined behaviou
 	cmake --preset asan-ubsan $(configure_flags)
 	cmake --build --preset asan-ubsan --parallel $(JOBS)
 	ctest --preset asan-ubsan
+
+soak: build ## Run the long loops of broken files and faults, under the sanitizers (an hour or so)
+	cmake --preset asan-ubsan
+	cmake --build --preset asan-ubsan --parallel $(JOBS)
+	ctest --preset asan-ubsan -C soak -L soak
 
 lint: deps-build deps-test deps-lint ## Check format, include direction, headers and clang-tidy
 	scripts/lint.sh

@@ -9,6 +9,7 @@ stress one thing each: they end in linear time or with a clear error.
 """
 
 import argparse
+import json
 import os
 import subprocess
 import sys
@@ -96,11 +97,21 @@ class Bench:
         mark = "<" if run.peak <= self.floor * 1.02 else ""
         return f"{mark}{run.peak / unit:.{digits}f}"
 
-    def import_run(self, path):
+    def import_run(self, path, output="output.json"):
         """The best of some imports; one that fails is not repeated."""
-        out = self.folder / "output.json"
-        command = [self.kyr, "import", str(path), "-o", str(out), "--modification-time",
-                   MODIFICATION_TIME, "--quiet"]
+        return self.best_of([self.kyr, "import", str(path), "-o", str(self.folder / output),
+                             "--modification-time", MODIFICATION_TIME, "--quiet"])
+
+    def inspect_run(self, path):
+        return self.best_of([self.kyr, "inspect", str(path)])
+
+    def phases(self, path):
+        """Seconds of processor time by phase, of one import."""
+        result = subprocess.run([self.kyr, "import", str(path), "-o", str(self.folder / "output.json"), "--timing",
+                                 "--log-format", "json"], capture_output=True, text=True, check=True)
+        return json.loads(result.stdout)["phases"]
+
+    def best_of(self, command):
         best = None
         for _ in range(self.repeat):
             run = Run(command, self.cpu)
@@ -124,11 +135,13 @@ def error_of(run):
 
 
 def bench_sizes(bench, kinds, sizes):
-    """The table of kinds and sizes; the number of failed imports."""
-    heads = ("file", "MB", "expat s", "import s", "ratio", "MB/s", "peak/size", "growth expat", "growth import")
-    widths = (12, 7, 8, 8, 6, 7, 9, 12, 13)
+    """The table of kinds and sizes, and where the time goes; the number of failed imports."""
+    heads = ("file", "MB", "expat s", "import s", "ratio", "MB/s", "peak/size", "growth expat", "growth import",
+             "sqlite s", "ratio", "inspect s", "ratio")
+    widths = (12, 7, 8, 8, 6, 7, 9, 12, 13, 8, 6, 9, 6)
     print_row(heads, widths)
     failed = 0
+    phases = []
     for kind in kinds:
         before = None
         for size in sizes:
@@ -146,10 +159,21 @@ def bench_sizes(bench, kinds, sizes):
                 # Of ten times the size, however far the two files are from it exactly.
                 factor = (megabytes / before[0]) / 10
                 growth = (f"{expat / before[1] / factor:.1f}", f"{run.seconds / before[2] / factor:.1f}")
+            others = []
+            for other in (bench.import_run(path, "output.sqlite"), bench.inspect_run(path)):
+                others += [f"{other.seconds:.3f}", f"{other.seconds / expat:.2f}"]
             print_row((kind, f"{megabytes:.1f}", f"{expat:.3f}", f"{run.seconds:.3f}",
                        f"{run.seconds / expat:.2f}", f"{megabytes / run.seconds:.1f}",
-                       bench.peak_text(run, megabytes * 1e6, 2), *growth), widths)
+                       bench.peak_text(run, megabytes * 1e6, 2), *(growth or ("", "")), *others), widths)
             before = (megabytes, expat, run.seconds)
+            phases.append((kind, megabytes, bench.phases(path)))
+    if phases:
+        print("\nprocessor seconds by phase; tokenising runs beside the making of objects")
+        names = list(phases[0][2])
+        widths = (12, 7) + tuple(max(8, len(name)) for name in names)
+        print_row(("file", "MB", *names), widths)
+        for kind, megabytes, times in phases:
+            print_row((kind, f"{megabytes:.1f}", *(f"{times[name]:.3f}" for name in names)), widths)
     return failed
 
 

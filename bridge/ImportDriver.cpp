@@ -11,6 +11,7 @@
 #include "repository/model/KYRMetadataOrigin.h"
 #include "repository/model/KYRStoreModel.h"
 #include "repository/plugin/KYRBridgeSpecificationLiteral.h"
+#include "trace/ImportTrace.h"
 #include "uml/UMLNamespaces.h"
 #include "xmi/XMIParser.h"
 
@@ -48,6 +49,7 @@ int KYROmgUml2XmiImportBridge::importModel(KYRStoreModel& model, KYROptionList& 
   stampOrigin(originId);
   KBI_UML2XMI::UML2_S_PARSING_FILE.log(*log, file.getName());
   XMIParser parser(log);
+  ImportTrace trace(KYRImportTrace::getCurrent(), parser);
   umlModel = parser.parse(file);
   stepLimit = stepsForAnyFile + stepsForOneElement * parser.getObjects().getCount();
   loadDom();
@@ -56,6 +58,7 @@ int KYROmgUml2XmiImportBridge::importModel(KYRStoreModel& model, KYROptionList& 
     convertModel();
   }
   finishModel();
+  trace.tell(*this);
   return 1;
 }
 

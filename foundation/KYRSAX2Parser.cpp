@@ -41,6 +41,9 @@ class KYRSAX2Parser::State final : public XmlDocumentListener {
     return KYRStdMessages::XML_POSITION.toString(toText(document_->getLine(lastElement_)),
                                                  toText(document_->getColumn(lastElement_)));
   }
+  std::uint32_t getLine() const noexcept {
+    return lastElement_ == XmlDocument::noNode ? 0 : document_->getLine(lastElement_);
+  }
   const std::shared_ptr<const XmlDocument>& getDocument() const noexcept { return document_; }
 
  private:
@@ -63,6 +66,8 @@ KYRSAX2Parser::~KYRSAX2Parser() = default;
 void KYRSAX2Parser::parseFile(const KYRFile& file) { state_->parse(file); }
 
 KYRString KYRSAX2Parser::getPosition() const { return state_->getPosition(); }
+
+std::uint32_t KYRSAX2Parser::getLine() const noexcept { return state_->getLine(); }
 
 std::shared_ptr<const XmlDocument> KYRSAX2Parser::getDocument() const noexcept {
   return state_->getDocument();

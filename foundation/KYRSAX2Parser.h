@@ -6,6 +6,7 @@
 // as borrowed views for as long as the parser lives.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 
 #include "foundation/KYRFile.h"
@@ -42,6 +43,8 @@ class KYR_EXPORT KYRSAX2Parser {
   /// Where the parser stands: "line L, column C" of the "<" of the element last reported, both
   /// from 1, columns in characters of the file as written. Empty before the first element.
   KYRString getPosition() const;
+  /// The line alone; 0 before the first element.
+  std::uint32_t getLine() const noexcept;
 
   /// The document that the last `parseFile` has filled; null before.
   std::shared_ptr<const XmlDocument> getDocument() const noexcept;

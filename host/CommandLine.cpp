@@ -5,14 +5,13 @@
 
 #include <cstdio>
 #include <cstring>
-#include <exception>
-#include <new>
 
-#include "foundation/KYRException.h"
 #include "foundation/xml/XmlLimits.h"
 #include "host/CommandRequest.h"
 #include "host/ExitCode.h"
+#include "host/GuardedRun.h"
 #include "host/HostLog.h"
+#include "host/ImportBatch.h"
 #include "host/KYRHostMessages.h"
 #include "host/PluginLibrary.h"
 
@@ -38,6 +37,7 @@ int perform(const CommandRequest& request, Tools& tools) {
   if (!request.encoding.empty()) forceXmlEncoding(request.encoding.c_str());
   switch (request.kind) {
     case Kind::import:
+      if (request.import.files.size() > 1) return ImportBatch(request.import, tools.output, tools.log).run();
       return ImportCommand(request.import, tools.library, tools.output, tools.log).run();
     case Kind::info:
       InfoCommand(request.info, tools.library, tools.output).run();
@@ -70,18 +70,7 @@ int failureCode(const CommandRequest& request) {
 }
 
 int performSafely(const CommandRequest& request, Tools& tools) {
-  try {
-    return perform(request, tools);
-  } catch (const KYRException& exception) {
-    tools.log.fail(exception.getMessage());
-  } catch (const std::bad_alloc&) {
-    tools.log.fail(KYRHostMessages::OUT_OF_MEMORY.getMessage());
-  } catch (const std::exception& exception) {
-    tools.log.fail(KYRHostMessages::UNEXPECTED_ERROR.getMessage(KYRString(exception.what())));
-  } catch (...) {
-    tools.log.fail(KYRHostMessages::UNEXPECTED_ERROR.getMessage(KYRString()));
-  }
-  return failureCode(request);
+  return runGuarded(tools.log, failureCode(request), [&request, &tools] { return perform(request, tools); });
 }
 
 // Where the output is the result, a command that cannot write it has failed. The result of an import

@@ -16,6 +16,7 @@ namespace {
 constexpr const char* programName = "kyr";
 constexpr const char* jsonFormat = "json";
 constexpr const char* textFormat = "text";
+constexpr unsigned int mostJobs = 1000;
 
 std::string textOf(const HostText<0>& literal) { return std::string(literal.getText().view()); }
 
@@ -92,7 +93,10 @@ void Definition::defineImport() {
   using namespace KYRHostTexts;
   CLI::App& command = addCommand("import", IMPORT_HELP, IMPORT_HELP_EXAMPLES);
   ImportCommand::Settings& settings = request_.import;
-  command.add_option("FILE", settings.file, textOf(IMPORT_HELP_FILE))->required()->type_name("");
+  command.add_option("FILE", settings.files, textOf(IMPORT_HELP_FILE))->required()->type_name("");
+  command.add_option("-j,--jobs", settings.jobs, textOf(IMPORT_HELP_JOBS))
+      ->type_name("N")
+      ->check(CLI::Range(1U, mostJobs).description(""));
   command.add_option("-o,--output", settings.output, textOf(IMPORT_HELP_OUTPUT))
       ->type_name("PATH")
       ->check(CLI::Validator(checkName, ""));
@@ -108,6 +112,7 @@ void Definition::defineImport() {
   command.add_flag("--timing", settings.withTiming, textOf(IMPORT_HELP_TIMING));
   defineLogFormat(command);
   command.add_option("--log-file", settings.logFile, textOf(IMPORT_HELP_LOG_FILE))->type_name("PATH");
+  command.add_option("--trace", settings.traceFile, textOf(IMPORT_HELP_TRACE))->type_name("PATH");
   addPlugin(command, settings.plugin);
 }
 
@@ -226,6 +231,7 @@ void Definition::read(int argumentCount, const char* const* arguments) {
     return;
   }
   using Kind = CommandRequest::Kind;
+  if (!request_.import.files.empty()) request_.import.file = request_.import.files.front();
   request_.kind = app_.got_subcommand("import")      ? Kind::import
                   : app_.got_subcommand("diff")      ? Kind::diff
                   : app_.got_subcommand("info")      ? Kind::info

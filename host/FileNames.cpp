@@ -1,6 +1,8 @@
 // Paths are looked at without raising: what cannot be looked at fails where it is opened.
 #include "host/FileNames.h"
 
+#include <sys/stat.h>
+
 #include <filesystem>
 
 namespace fs = std::filesystem;
@@ -74,4 +76,14 @@ bool FileNames::isSame(const std::string& first, const std::string& second) {
   if (failure) return false;
   const fs::path secondPlace = fs::weakly_canonical(second, failure);
   return !failure && firstPlace == secondPlace;
+}
+
+std::string FileNames::identityOf(const std::string& path) {
+  struct stat status {};
+  if (stat(path.c_str(), &status) == 0) {
+    return std::to_string(status.st_dev) + ":" + std::to_string(status.st_ino);
+  }
+  std::error_code failure;
+  const fs::path place = fs::weakly_canonical(path, failure);
+  return failure ? path : place.string();
 }

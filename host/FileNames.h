@@ -24,6 +24,9 @@ std::optional<StoreModelFormat> findFormat(const std::string& name);
 /// The folder that a file of that name would stand in, as it is written; empty when it is there.
 std::string missingFolderOf(const std::string& file);
 
+/// A text that is the same for all paths of one file, whether or not there is one yet.
+std::string identityOf(const std::string& path);
+
 /// Whether both paths lead to one file, whether or not there is one yet.
 bool isSame(const std::string& first, const std::string& second);
 

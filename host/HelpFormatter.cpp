@@ -45,6 +45,17 @@ std::string HelpFormatter::make_option_desc(const CLI::Option* option) const {
   return wrap(option->get_description(), rightColumn);
 }
 
+// A flag that may have a value says so in the way it is to be written: "--flag[=value]".
+std::string HelpFormatter::make_option_name(const CLI::Option* option, bool isPositional) const {
+  std::string name = CLI::Formatter::make_option_name(option, isPositional);
+  const std::size_t brace = name.find('{');
+  return brace == std::string::npos ? name : name.substr(0, brace) + option->get_type_name();
+}
+
+std::string HelpFormatter::make_option_opts(const CLI::Option* option) const {
+  return option->get_type_name().starts_with('[') ? std::string() : CLI::Formatter::make_option_opts(option);
+}
+
 // A description starts with a sentence that stands alone.
 std::string HelpFormatter::make_subcommand(const CLI::App* command) const {
   const std::string description = command->get_description();

@@ -21,6 +21,7 @@ class HostLog::File {
     const KYRString reason(std::strerror(errno));
     KYRHostMessages::LOG_FILE_CANNOT_OPEN.throwException(KYRString(path_), reason);
   }
+  explicit File(int descriptor) : descriptor_(descriptor), output_(descriptor_) {}
   File(const File&) = delete;
   File& operator=(const File&) = delete;
   ~File() { ::close(descriptor_); }
@@ -57,6 +58,16 @@ HostLog::HostLog(Format format, int lightestShown)
 HostLog::~HostLog() = default;
 
 void HostLog::openFile(const std::string& path) { file_ = std::make_unique<File>(path); }
+
+void HostLog::openFile(int descriptor) { file_ = std::make_unique<File>(descriptor); }
+
+void HostLog::passOn(std::string_view shown, std::string_view logged) {
+  terminal_.write(shown);
+  terminal_.flush();
+  if (file_ == nullptr) return;
+  file_->getOutput().write(logged);
+  file_->getOutput().flush();
+}
 
 void HostLog::log(const KYRLogEvent& event) {
   const char* const level = KYRLogLevel::toName(event.getLevel());

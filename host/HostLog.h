@@ -24,9 +24,13 @@ class HostLog final : public KYRLog {
   /// Writes every further line to that file too, which starts empty. Raises KYRException when it
   /// cannot be opened.
   void openFile(const std::string& path);
+  /// The same with a file that is open already, which it closes.
+  void openFile(int descriptor);
   void log(const KYRLogEvent& event) override;
   /// The end of the work by an exception. As text the message stands as the exception says it.
   void fail(const KYRString& message);
+  /// Lines that another log has made: those for the terminal, and those for the file.
+  void passOn(std::string_view shown, std::string_view logged);
   /// Reports a log file that could not be written to its end. Called once, after the last line.
   void finish();
 

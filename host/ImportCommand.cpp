@@ -15,6 +15,7 @@
 #include "host/PhaseReport.h"
 #include "host/PluginLibrary.h"
 #include "host/TextOut.h"
+#include "host/TraceFile.h"
 #include "repository/plugin/KYRImportBridgeDllInterface.h"
 
 namespace {
@@ -26,12 +27,6 @@ constexpr const char* fileOption = "BP_FILE";
 constexpr const char* rootPackageOption = "BP_ROOT_PACKAGE";
 // Read by libkyr, not by the plug-in, hence in no list of options that a plug-in gives.
 constexpr const char* modificationTimeOption = "BP_MODIFICATION_TIME";
-
-KYRString inSeconds(double seconds) {
-  char text[32];
-  std::snprintf(text, sizeof text, "%.2f", seconds);
-  return KYRString(text);
-}
 
 void countsToJson(JsonOut& json, const SavedModelCounts& counts) {
   json.key("packages").number(counts.packages);
@@ -54,11 +49,19 @@ void lossToJson(JsonOut& json, const LossSurvey::Loss& loss) {
 
 }  // namespace
 
+std::string ImportCommand::targetOf(const Settings& settings) {
+  return FileNames::outputOf(settings.file, settings.output, formatOf(settings));
+}
+
+StoreModelFormat ImportCommand::formatOf(const Settings& settings) {
+  if (settings.modelFormat.has_value()) return *settings.modelFormat;
+  return settings.isAppending ? StoreModelFormat::sqlite : FileNames::formatOf(settings.output);
+}
+
 int ImportCommand::run() {
   using Clock = std::chrono::steady_clock;
   const Clock::time_point start = Clock::now();
-  const StoreModelFormat format = findFormat();
-  target_ = FileNames::outputOf(settings_.file, settings_.output, format);
+  target_ = targetOf(settings_);
   if (isWrongUsage()) return ExitCode::wrongUsage;
   const std::string missing = FileNames::missingFolderOf(target_);
   if (!missing.empty()) {
@@ -69,11 +72,12 @@ int ImportCommand::run() {
   KYROptionList options;
   fillOptions(options);
   const PhaseReport phases(settings_.withTiming);
-  const ModelSaver saver(format, settings_.isAppending);
+  const ModelSaver saver(formatOf(settings_), settings_.isAppending);
+  TraceFile trace(settings_.traceFile);
   importFile(options);
-  if (!settings_.isQuiet) {
-    writeSummary(std::chrono::duration<double>(Clock::now() - start).count(), saver.getCounts(), phases);
-  }
+  trace.commit();
+  result_ = {std::chrono::duration<double>(Clock::now() - start).count(), saver.getCounts()};
+  if (!settings_.isQuiet) writeSummary(phases, trace);
   return ExitCode::done;
 }
 
@@ -93,13 +97,8 @@ void ImportCommand::importFile(KYROptionList& options) {
   if (normalizer_) NormalizeSummary::logNotes(log_, normalizer_->getReport());
 }
 
-StoreModelFormat ImportCommand::findFormat() const {
-  if (settings_.modelFormat.has_value()) return *settings_.modelFormat;
-  return settings_.isAppending ? StoreModelFormat::sqlite : FileNames::formatOf(settings_.output);
-}
-
 bool ImportCommand::isWrongUsage() {
-  if (settings_.isAppending && findFormat() != StoreModelFormat::sqlite) {
+  if (settings_.isAppending && formatOf(settings_) != StoreModelFormat::sqlite) {
     log_.fail(KYRHostMessages::APPEND_NEEDS_SQLITE.getMessage());
     return true;
   }
@@ -111,6 +110,10 @@ bool ImportCommand::filesClash() {
     log_.fail(KYRHostMessages::OUTPUT_IS_INPUT.getMessage(KYRString(target_)));
     return true;
   }
+  if (traceClashes()) {
+    log_.fail(KYRHostMessages::TRACE_IS_OTHER_FILE.getMessage(KYRString(settings_.traceFile)));
+    return true;
+  }
   if (settings_.logFile.empty()) return false;
   if (FileNames::isSame(settings_.logFile, settings_.file)) {
     log_.fail(KYRHostMessages::LOG_FILE_IS_INPUT.getMessage(KYRString(settings_.logFile)));
@@ -119,6 +122,14 @@ bool ImportCommand::filesClash() {
   if (FileNames::isSame(settings_.logFile, target_)) {
     log_.fail(KYRHostMessages::LOG_FILE_IS_OUTPUT.getMessage(KYRString(settings_.logFile)));
     return true;
+  }
+  return false;
+}
+
+bool ImportCommand::traceClashes() const {
+  if (settings_.traceFile.empty()) return false;
+  for (const std::string& other : {settings_.file, target_, settings_.logFile}) {
+    if (!other.empty() && FileNames::isSame(settings_.traceFile, other)) return true;
   }
   return false;
 }
@@ -142,34 +153,47 @@ void ImportCommand::setOption(KYROptionList& options, const char* identifier, co
   option->setValue(KYRString(value));
 }
 
-void ImportCommand::writeSummary(double seconds, const std::optional<SavedModelCounts>& counts,
-                                 const PhaseReport& phases) {
+KYRString ImportCommand::inSeconds(double seconds) {
+  char text[32];
+  std::snprintf(text, sizeof text, "%.2f", seconds);
+  return KYRString(text);
+}
+
+void ImportCommand::resultToJson(JsonOut& json, const std::string& target, const Result& result) {
+  json.key("output").text(target);
+  json.key("seconds").real(result.seconds);
+  if (result.counts.has_value()) countsToJson(json, *result.counts);
+}
+
+void ImportCommand::writeSummary(const PhaseReport& phases, const TraceFile& trace) {
   std::optional<LossSurvey::Loss> loss;
-  if (counts.has_value() && !normalizer_) {
-    loss = survey_.compare(KYRFile(KYRString(settings_.file)), *counts, !settings_.rootPackage.empty());
+  if (result_.counts.has_value() && !normalizer_) {
+    loss =
+        survey_.compare(KYRFile(KYRString(settings_.file)), *result_.counts, !settings_.rootPackage.empty());
   }
   if (settings_.format == HostLog::Format::json) {
     JsonOut json;
     json.beginObject();
-    json.key("output").text(target_);
-    json.key("seconds").real(seconds);
-    if (counts.has_value()) countsToJson(json, *counts);
+    resultToJson(json, target_, result_);
     if (normalizer_) NormalizeSummary::toJson(json.key("normalized"), normalizer_->getReport());
     if (loss.has_value()) lossToJson(json, *loss);
+    trace.write(json);
     phases.write(json);
     json.endObject();
     output_.write(json.endLine());
     return;
   }
   TextOut out(output_);
-  out.line(KYRHostTexts::SUMMARY, target_, inSeconds(seconds));
-  if (counts.has_value()) {
-    out.line(KYRHostTexts::SUMMARY_COUNTS, counts->packages, counts->classes, counts->interfaces,
-             counts->attributes, counts->operations, counts->arguments, counts->diagrams);
+  out.line(KYRHostTexts::SUMMARY, target_, inSeconds(result_.seconds));
+  if (result_.counts.has_value()) {
+    const SavedModelCounts& counts = *result_.counts;
+    out.line(KYRHostTexts::SUMMARY_COUNTS, counts.packages, counts.classes, counts.interfaces,
+             counts.attributes, counts.operations, counts.arguments, counts.diagrams);
   }
   if (normalizer_) NormalizeSummary::toText(out, normalizer_->getReport());
   if (loss.has_value()) {
     out.line(KYRHostTexts::SUMMARY_LOST, loss->classes, loss->attributes, loss->associations, loss->reasons);
   }
+  trace.write(out);
   phases.write(out);
 }

@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "host/HostLog.h"
 #include "host/LossSurvey.h"
@@ -10,19 +11,24 @@
 #include "host/NormalizeSummary.h"
 #include "host/Output.h"
 
+class JsonOut;
 class KYROptionList;
 class PhaseReport;
 class PluginLibrary;
+class TraceFile;
 
 class ImportCommand {
  public:
   struct Settings {
-    std::string file;
-    std::string output;  // empty: named after the file
+    std::vector<std::string> files;  // as given
+    std::string file;                // the one that is imported
+    unsigned int jobs = 0;           // how many at a time; 0: as many as there are processors
+    std::string output;              // empty: named after the file
     std::string rootPackage;
     std::string modificationTime;                 // ISO 8601; empty: the present
     std::string plugin;                           // empty: the one of this installation
     std::string logFile;                          // empty: none
+    std::string traceFile;                        // empty: none
     std::optional<StoreModelFormat> modelFormat;  // nothing: as the name of the output says
     bool isAppending = false;
     NormalizeChoice normalize;
@@ -31,20 +37,34 @@ class ImportCommand {
     HostLog::Format format = HostLog::Format::text;
   };
 
+  /// What there is to tell of an import that has succeeded.
+  struct Result {
+    double seconds = 0;
+    std::optional<SavedModelCounts> counts;
+  };
+
+  /// The file that a model is written to.
+  static std::string targetOf(const Settings& settings);
+  static KYRString inSeconds(double seconds);
+  /// The members of the open object that tell the result.
+  static void resultToJson(JsonOut& json, const std::string& target, const Result& result);
+
   /// `library` must outlive the handling of an exception, which may come from the plug-in.
   ImportCommand(Settings settings, PluginLibrary& library, Output& output, HostLog& log)
       : settings_(std::move(settings)), library_(library), output_(output), log_(log) {}
   /// The exit code. Raises KYRException for an import that fails; no output file is written then.
   int run();
+  const Result& getResult() const noexcept { return result_; }
 
  private:
-  StoreModelFormat findFormat() const;
+  static StoreModelFormat formatOf(const Settings& settings);
   bool isWrongUsage();
   bool filesClash();
+  bool traceClashes() const;
   void fillOptions(KYROptionList& options);
   void importFile(KYROptionList& options);
   void setOption(KYROptionList& options, const char* identifier, const std::string& value);
-  void writeSummary(double seconds, const std::optional<SavedModelCounts>& counts, const PhaseReport& phases);
+  void writeSummary(const PhaseReport& phases, const TraceFile& trace);
 
   Settings settings_;
   PluginLibrary& library_;
@@ -53,4 +73,5 @@ class ImportCommand {
   std::string target_;
   std::optional<Normalizer> normalizer_;  // when the step was asked for
   LossSurvey survey_;                     // of an import without it
+  Result result_;
 };

@@ -11,6 +11,7 @@
 #include <string_view>
 
 #include "foundation/KYRString.h"
+#include "repository/storage/JsonAllocator.h"
 
 class JsonOut {
  public:
@@ -44,6 +45,8 @@ class JsonOut {
   JsonOut& done(bool) { return *this; }
   void escapedText(std::string_view value);
 
-  rapidjson::StringBuffer buffer_;
-  rapidjson::Writer<rapidjson::StringBuffer> writer_;
+  using Buffer = rapidjson::GenericStringBuffer<rapidjson::UTF8<>, JsonAllocator>;
+
+  Buffer buffer_;
+  rapidjson::Writer<Buffer, rapidjson::UTF8<>, rapidjson::UTF8<>, JsonAllocator> writer_;
 };

@@ -30,7 +30,7 @@ const HostText<0> HELP_PLUGIN("HELP_PLUGIN", "Use the plug-in in this file inste
 
 const HostText<0> IMPORT_HELP(
     "IMPORT_HELP",
-    "Import a model file and save the model as JSON.\n"
+    "Import model files and save the models.\n"
     "\n"
     "The model is written when the import has succeeded, and then as a whole: after a\n"
     "failure the output file is as it was before. What the import finds worth telling is\n"
@@ -42,11 +42,16 @@ const HostText<0> IMPORT_HELP_EXAMPLES("IMPORT_HELP_EXAMPLES",
                                        "  kyr import shop.xmi                     writes shop.json here\n"
                                        "  kyr import shop.xmi -o models/          writes models/shop.json\n"
                                        "  kyr import shop.xmi -o shop.sqlite      writes a database\n"
+                                       "  kyr import *.xmi -o models/             imports many files\n"
                                        "  kyr import shop.xmi --quiet --log-file shop.log --log-format json");
-const HostText<0> IMPORT_HELP_FILE("IMPORT_HELP_FILE", "The model file: .xmi, .xml, .uml or any other name");
+const HostText<0> IMPORT_HELP_FILE(
+    "IMPORT_HELP_FILE", "The model file: .xmi, .xml, .uml or any other name. There can be several");
+const HostText<0> IMPORT_HELP_JOBS("IMPORT_HELP_JOBS",
+                                   "Import so many files at a time, each in a process of its own. Without "
+                                   "it: as many as there are processors");
 const HostText<0> IMPORT_HELP_OUTPUT(
     "IMPORT_HELP_OUTPUT",
-    "The file to write, or a folder to write it in. Without it: the name of the "
+    "The file to write, or a folder to write it in; a folder for several files. Without it: the name of the "
     "model file with the extension .json, in the current folder");
 const HostText<0> IMPORT_HELP_FORMAT("IMPORT_HELP_FORMAT",
                                      "json; sqlite: a database to query; sql: statements that PostgreSQL "
@@ -66,6 +71,10 @@ const HostText<0> IMPORT_HELP_QUIET("IMPORT_HELP_QUIET",
                                     "Print warnings and errors only: no STATUS lines and no summary");
 const HostText<0> IMPORT_HELP_TIMING("IMPORT_HELP_TIMING",
                                      "Tell in the summary what processor time each phase took");
+const HostText<0> IMPORT_HELP_TRACE(
+    "IMPORT_HELP_TRACE",
+    "A file that tells what became of each UML element that is no object of its own in the model: where it "
+    "lives on, or why it is lost. One JSON object a line");
 const HostText<0> IMPORT_HELP_LOG_FORMAT(
     "IMPORT_HELP_LOG_FORMAT",
     "text: lines to read. json: one JSON object a line with \"level\", \"code\" and \"text\", and the "

@@ -57,16 +57,33 @@ const HostMessage<2> KYRHostMessages::NO_FOLDER(
     30, fatal, "The model cannot be written to '{0}': there is no folder '{1}'");
 const HostMessage<0> KYRHostMessages::APPEND_NEEDS_SQLITE(
     31, fatal, "'--append' adds to a file of the format sqlite; '--format' names another one");
+
+const HostMessage<1> KYRHostMessages::OUTPUT_NOT_A_FOLDER(
+    32, fatal, "For several files '-o' names a folder that is there; '{0}' is none");
+const HostMessage<3> KYRHostMessages::OUTPUTS_CLASH(
+    33, fatal, "The models of '{0}' and '{1}' would be written to one file, '{2}'");
+const HostMessage<1> KYRHostMessages::FILE_FAILED(34, fatal, "'{0}' was not imported");
+const HostMessage<2> KYRHostMessages::FILE_BROKEN_OFF(
+    35, fatal, "'{0}' was not imported: the signal {1} ended the process that was at it");
+const HostMessage<2> KYRHostMessages::CANNOT_START(36, fatal, "No process can be started for '{0}': {1}");
+
+const HostMessage<1> KYRHostMessages::FILE_HAS_WARNINGS(
+    37, warning, "'{0}' was imported, with the warnings before this one");
+
 const HostMessage<0> KYRHostMessages::TOOL_NAME_FOUND(
     41, warning,
     "The tool that wrote the file is named in an unusual way; it was understood, so the tool's own data are "
-    "read "
-    "as those of that tool");
+    "read as those of that tool");
 const HostMessage<1> KYRHostMessages::ATTRIBUTE_RINGS(
     42, warning, "Elements whose attributes hide each other in any order, and stay as they are: {0}");
 const HostMessage<1> KYRHostMessages::NORMALIZED_IS_INPUT(
     43, fatal,
     "The rewritten file would be written over the file that it comes from, '{0}'; '-o' names another one");
+const HostMessage<1> KYRHostMessages::TRACE_IS_OTHER_FILE(
+    60, fatal,
+    "The trace '{0}' would be written over the file that is to be imported, the model or the log file");
+const HostMessage<0> KYRHostMessages::TRACE_OF_ONE_FILE(
+    61, fatal, "'--trace' tells of the import of one file; several are named");
 
 KYRHostMessages::KYRHostMessages() : KYRTextLiteralsCollection("kyr", HostLiterals::catalogueName) {
   for (KYRTextLiteral* literal : entered()) add(literal);

@@ -39,6 +39,16 @@ class KYRHostMessages final : public KYRTextLiteralsCollection {
   static const HostMessage<0> TOOL_NAME_FOUND;
   static const HostMessage<1> ATTRIBUTE_RINGS;
   static const HostMessage<1> NORMALIZED_IS_INPUT;
+  // Imports of several files.
+  static const HostMessage<1> OUTPUT_NOT_A_FOLDER;
+  static const HostMessage<3> OUTPUTS_CLASH;
+  static const HostMessage<1> FILE_FAILED;
+  static const HostMessage<2> FILE_BROKEN_OFF;
+  static const HostMessage<2> CANNOT_START;
+  static const HostMessage<1> FILE_HAS_WARNINGS;
+  // The trace of an import.
+  static const HostMessage<1> TRACE_IS_OTHER_FILE;
+  static const HostMessage<0> TRACE_OF_ONE_FILE;
   // What should not happen.
   static const HostMessage<0> OUT_OF_MEMORY;
   static const HostMessage<1> UNEXPECTED_ERROR;

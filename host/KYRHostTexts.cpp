@@ -17,6 +17,17 @@ const HostText<7> SUMMARY_COUNTS("SUMMARY_COUNTS",
                                  "operations {4}, arguments {5}, diagrams {6}");
 
 const HostText<2> SUMMARY_PHASE("SUMMARY_PHASE", "{0} s  {1}");
+const HostText<5> SUMMARY_TRACE("SUMMARY_TRACE",
+                                "elements {0}: converted {1}, absorbed {2}, lost {3}; '{4}' tells of each");
+
+const HostText<1> BATCH_FILE_FAILED("BATCH_FILE_FAILED", "Failed '{0}'");
+const HostText<0> BATCH_HEAD(
+    "BATCH_HEAD",
+    "Result   Seconds    Packages     Classes  Interfaces  Attributes  Operations   Arguments  File");
+const HostText<0> BATCH_DONE("BATCH_DONE", "done");
+const HostText<0> BATCH_FAILED("BATCH_FAILED", "failed");
+const HostText<2> BATCH_SUM("BATCH_SUM", "files: {0}, failed: {1}");
+const HostText<2> BATCH_PROGRESS("BATCH_PROGRESS", "{0} of {1} files done");
 
 const HostText<1> DIAGRAM_WRITTEN("DIAGRAM_WRITTEN", "Wrote '{0}'");
 const HostText<1> REPORT_WRITTEN("REPORT_WRITTEN", "Wrote '{0}'");

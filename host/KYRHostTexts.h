@@ -20,6 +20,7 @@ extern const HostText<0> HELP_PLUGIN;
 extern const HostText<0> IMPORT_HELP;
 extern const HostText<0> IMPORT_HELP_EXAMPLES;
 extern const HostText<0> IMPORT_HELP_FILE;
+extern const HostText<0> IMPORT_HELP_JOBS;
 extern const HostText<0> IMPORT_HELP_OUTPUT;
 extern const HostText<0> IMPORT_HELP_FORMAT;
 extern const HostText<0> IMPORT_HELP_APPEND;
@@ -27,6 +28,7 @@ extern const HostText<0> IMPORT_HELP_ROOT_PACKAGE;
 extern const HostText<0> IMPORT_HELP_MODIFICATION_TIME;
 extern const HostText<0> IMPORT_HELP_QUIET;
 extern const HostText<0> IMPORT_HELP_TIMING;
+extern const HostText<0> IMPORT_HELP_TRACE;
 extern const HostText<0> IMPORT_HELP_LOG_FORMAT;
 extern const HostText<0> IMPORT_HELP_LOG_FILE;
 
@@ -81,6 +83,8 @@ extern const HostText<2> SUMMARY;
 extern const HostText<7> SUMMARY_COUNTS;
 /// With --timing: seconds and phase.
 extern const HostText<2> SUMMARY_PHASE;
+/// With --trace: elements, converted, absorbed, lost, and the file.
+extern const HostText<5> SUMMARY_TRACE;
 
 // What the normalising step has done, and what an import without it has lost.
 extern const HostText<1> SUMMARY_NORMALIZED;
@@ -118,6 +122,14 @@ extern const HostText<0> REASON_ID_LIST;
 extern const HostText<0> REASON_SCALAR_ELEMENT;
 extern const HostText<0> REASON_DECLARED_TYPE;
 extern const HostText<0> REASON_ATTRIBUTE_ORDER;
+
+// Several imports: the table behind their lines, and the progress on a terminal.
+extern const HostText<1> BATCH_FILE_FAILED;
+extern const HostText<0> BATCH_HEAD;
+extern const HostText<0> BATCH_DONE;
+extern const HostText<0> BATCH_FAILED;
+extern const HostText<2> BATCH_SUM;
+extern const HostText<2> BATCH_PROGRESS;
 
 /// One line of `kyr diagram` for each picture.
 extern const HostText<1> DIAGRAM_WRITTEN;

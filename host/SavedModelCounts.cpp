@@ -53,3 +53,13 @@ SavedModelCounts SavedModelCounts::of(const KYRStoreModel& model) {
   walkStored(model, counting);
   return counting.counts;
 }
+
+SavedModelCounts& SavedModelCounts::operator+=(const SavedModelCounts& other) noexcept {
+  packages += other.packages;
+  classes += other.classes;
+  interfaces += other.interfaces;
+  attributes += other.attributes;
+  operations += other.operations;
+  arguments += other.arguments;
+  return *this;
+}

@@ -9,6 +9,8 @@ struct SavedModelCounts {
   /// What is in the model, counted in one walk.
   static SavedModelCounts of(const KYRStoreModel& model);
 
+  SavedModelCounts& operator+=(const SavedModelCounts& other) noexcept;
+
   std::uint64_t packages = 0;
   std::uint64_t classes = 0;  // without the interfaces
   std::uint64_t interfaces = 0;

@@ -5,6 +5,7 @@
 #include <csignal>
 
 #include "host/CommandLine.h"
+#include "host/EndingSignals.h"
 
 namespace {
 
@@ -24,5 +25,6 @@ int main(int argumentCount, char** arguments) {
   // A reader that goes away must not kill an import; writing to it fails instead.
   std::signal(SIGPIPE, SIG_IGN);
   std::signal(SIGXFSZ, SIG_IGN);  // a file size limit is then an error of the write
+  EndingSignals::handle();
   return runCommandLine(argumentCount, arguments);
 }

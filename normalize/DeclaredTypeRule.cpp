@@ -5,23 +5,39 @@
 
 #include "xmi/TagHandler.h"
 
+namespace {
+
+const TagHandler* rowOf(NormalizedDocument& document, DocumentRule::Node node) {
+  const DocumentRule::Node around = document.readingOf(node).object;
+  return ReaderVocabulary::findRow(document.wordOfTag(node), document.readingOf(around).kind);
+}
+
+bool isUntyped(NormalizedDocument& document, DocumentRule::Node node) {
+  return document.readingOf(node).object != DocumentRule::noNode &&
+         document.isEmpty(node, document.xmiType) && document.editor.getName(node) != document.umlModel;
+}
+
+void giveType(NormalizedDocument& document, DocumentRule::Node node) {
+  document.setType(node, ReaderVocabulary::typeOfKind(document.readingOf(node).kind));
+  document.report.note(NormalizeRule::declaredType, false);
+}
+
+}  // namespace
+
 void DeclaredTypeRule::apply(NormalizedDocument& document) {
-  XmlDocumentEditor& editor = document.editor;
   std::unordered_set<const TagHandler*> rows;  // that the reader would have made an object by
-  const auto rowOf = [&document](Node node, const Reading& reading) {
-    return ReaderVocabulary::findRow(document.wordOfTag(node), document.readingOf(reading.object).kind);
-  };
   for (const Node node : document.getModelElements()) {
-    if (!editor.isElement(node)) continue;
-    const Reading reading = document.readingOf(node);
-    if (reading.object == noNode) continue;
-    if (reading.role == Role::reference && !rows.empty() && rows.count(rowOf(node, reading)) != 0) {
+    if (!document.editor.isElement(node)) continue;
+    const Role role = document.readingOf(node).role;
+    if (role == Role::reference && !rows.empty() && rows.count(rowOf(document, node)) != 0) {
       document.report.matter(NormalizeRule::declaredType);
     }
-    if (reading.role != Role::object || !document.isEmpty(node, document.xmiType)) continue;
-    if (editor.getName(node) == document.umlModel) continue;
-    rows.insert(rowOf(node, reading));
-    document.setType(node, ReaderVocabulary::typeOfKind(reading.kind));
-    document.report.note(NormalizeRule::declaredType, false);
+    if (role != Role::object || !isUntyped(document, node)) continue;
+    rows.insert(rowOf(document, node));
+    giveType(document, node);
+  }
+  // The rows of the reader serve what stands beside the model too.
+  for (const Node node : document.getForeignObjects()) {
+    if (isUntyped(document, node)) giveType(document, node);
   }
 }

@@ -16,6 +16,9 @@ constexpr const char* shieldedTags[] = {"xmi:Extension", "eAnnotations", "xmi:Do
 constexpr const char* xmiRoot = "xmi:XMI";
 constexpr const char* umlProfile = "uml:Profile";
 
+// With some room for added elements, so that the first of them does not move all others.
+std::size_t withRoom(std::size_t count) { return count + count / 8; }
+
 }  // namespace
 
 NormalizedDocument::NormalizedDocument(std::shared_ptr<const XmlDocument> source, std::string nameOfFile,
@@ -66,6 +69,7 @@ void NormalizedDocument::findRegions() {
     isShielded.resize(editor.getNameCount());
     isShielded[shielded] = true;
   }
+  regions_.reserve(withRoom(editor.getNodeCount()));
   regions_.assign(editor.getNodeCount(), Region::foreign);
   roots_.clear();
   isXmiRoot_ = editor.getTag(0).view() == xmiRoot;
@@ -94,8 +98,10 @@ NormalizedDocument::Node NormalizedDocument::addElement(Name tag, Node origin) {
 }
 
 void NormalizedDocument::computeReadings() {
+  readings_.reserve(withRoom(editor.getNodeCount()));
   readings_.assign(editor.getNodeCount(), Reading());
   objects_.clear();
+  foreignObjects_.clear();
   for (Node node = 0; node != noNode;) {
     if (!editor.isElement(node)) {
       node = editor.getFollowing(node);
@@ -105,7 +111,9 @@ void NormalizedDocument::computeReadings() {
     if (regions_[node] != Region::shielded) {
       const Node parent = editor.getParent(node);
       readings_[node] = read(node, parent == noNode ? Reading() : readings_[parent], parent);
-      if (readings_[node].role == Role::object && regions_[node] == Region::model) objects_.push_back(node);
+      if (readings_[node].role == Role::object) {
+        (regions_[node] == Region::model ? objects_ : foreignObjects_).push_back(node);
+      }
     }
     node = readings_[node].role == Role::skipped ? editor.getBehind(node) : editor.getFollowing(node);
   }
@@ -146,7 +154,7 @@ NormalizedDocument::Reading NormalizedDocument::read(Node node, const Reading& p
 }
 
 IdIndex NormalizedDocument::indexModel() const {
-  IdIndex ids(modelElements_.size());
+  IdIndex ids(modelElements_.size() / 4);
   for (const Node node : modelElements_) {
     const KYRString& id = attribute(node, xmiId);
     if (!id.isEmpty()) ids.enter(id.view(), node);

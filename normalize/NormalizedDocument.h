@@ -85,6 +85,11 @@ class NormalizedDocument {
     if (readings_.empty()) computeReadings();
     return objects_;
   }
+  /// Those of elements that are no part of the model.
+  const std::vector<Node>& getForeignObjects() {
+    getObjects();
+    return foreignObjects_;
+  }
   bool isObject(Node node) { return isModel(node) && readingOf(node).role == Role::object; }
 
   /// The elements of the model by id, the first of an id in the order of the file.
@@ -115,6 +120,7 @@ class NormalizedDocument {
   std::vector<Node> roots_;
   std::vector<Reading> readings_;
   std::vector<Node> objects_;
+  std::vector<Node> foreignObjects_;
   IdIndex ids_;
   bool isXmiRoot_ = false;
   std::uint64_t steps_ = 0;

@@ -52,26 +52,8 @@ void PackageContentRule::renameContent(NormalizedDocument& document) {
   }
   std::vector<bool> isDone(editor.getNodeCount());
   for (const Node package : packages) {
-    if (!isDone[package]) renameMembers(document, package);
+    if (!isDone[package]) PackageMove::renameMembers(document, package, NormalizeRule::packageContent);
     isDone[package] = true;
-  }
-}
-
-void PackageContentRule::renameMembers(NormalizedDocument& document, Node package) {
-  XmlDocumentEditor& editor = document.editor;
-  const Name ownedMember = editor.intern("ownedMember");
-  bool hasPackaged = false;
-  for (Node child = editor.getFirst(package); child != noNode && !hasPackaged;
-       child = editor.getNext(child)) {
-    hasPackaged = editor.isElement(child) && editor.getName(child) == document.packagedElement;
-  }
-  if (!hasPackaged) return;
-  for (Node child = editor.getFirst(package); child != noNode; child = editor.getNext(child)) {
-    if (!editor.isElement(child) || editor.getName(child) != ownedMember || !document.isObject(child))
-      continue;
-    if (!UMLLineage::isKindOf(document.readingOf(child).kind, UMLPackageableElement::kind)) continue;
-    editor.setName(child, document.packagedElement);
-    document.report.note(NormalizeRule::packageContent);
   }
 }
 

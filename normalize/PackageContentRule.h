@@ -14,6 +14,5 @@ class PackageContentRule final : public DocumentRule {
  private:
   static void turnModelsIntoPackages(NormalizedDocument& document);
   static void renameContent(NormalizedDocument& document);
-  static void renameMembers(NormalizedDocument& document, Node package);
   static void moveAssociations(NormalizedDocument& document);
 };

@@ -23,10 +23,38 @@ void PackageMove::plan(Node node) {
 }
 
 void PackageMove::perform() {
+  if (moves_.empty()) return;
   for (const auto& [node, package] : moves_) {
     document_.editor.setName(node, document_.packagedElement);
     document_.editor.append(package, node);
     document_.report.note(rule_);
   }
-  if (!moves_.empty()) document_.forgetReadings();
+  document_.forgetReadings();
+  std::vector<bool> isDone(document_.editor.getNodeCount());
+  for (const auto& [node, package] : moves_) {
+    if (!isDone[package]) renameMembers(document_, package, rule_);
+    isDone[package] = true;
+  }
+}
+
+void PackageMove::renameMembers(NormalizedDocument& document, Node package, NormalizeRule rule) {
+  XmlDocumentEditor& editor = document.editor;
+  const NormalizedDocument::Name ownedMember = editor.intern("ownedMember");
+  const auto next = [&](Node child) {
+    while (child != NormalizedDocument::noNode && !editor.isElement(child)) child = editor.getNext(child);
+    return child;
+  };
+  bool hasPackaged = false;
+  for (Node child = next(editor.getFirst(package)); child != NormalizedDocument::noNode && !hasPackaged;
+       child = next(editor.getNext(child))) {
+    hasPackaged = editor.getName(child) == document.packagedElement;
+  }
+  if (!hasPackaged) return;
+  for (Node child = next(editor.getFirst(package)); child != NormalizedDocument::noNode;
+       child = next(editor.getNext(child))) {
+    if (editor.getName(child) != ownedMember || !document.isObject(child)) continue;
+    if (!UMLLineage::isKindOf(document.readingOf(child).kind, UMLPackageableElement::kind)) continue;
+    editor.setName(child, document.packagedElement);
+    document.report.note(rule);
+  }
 }

@@ -18,6 +18,9 @@ class PackageMove {
   void plan(Node node);
   /// Moves them to the ends of the nearest packages around them, in their order.
   void perform();
+  /// Where a package has contents under "packagedElement", what stands beside them under "ownedMember" would
+  /// not be looked at: it gets the same tag.
+  static void renameMembers(NormalizedDocument& document, Node package, NormalizeRule rule);
 
  private:
   NormalizedDocument& document_;

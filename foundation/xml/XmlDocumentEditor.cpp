@@ -10,6 +10,9 @@ namespace {
 // Numbers of 32 bits tell nodes, attributes and texts; the last two are taken.
 constexpr std::size_t mostItems = 0xFFFFFFFDU;
 
+// With some room for added nodes, so that the first of them does not move all others.
+std::size_t withRoom(std::size_t count) { return count + count / 8; }
+
 void requireRoom(std::size_t count) {
   if (count >= mostItems) throw std::length_error("XmlDocumentEditor");
 }
@@ -23,7 +26,7 @@ XmlDocumentEditor::XmlDocumentEditor(std::shared_ptr<const XmlDocument> source)
   for (Name name = 0; name < source_->getNameCount(); ++name) intern(source_->getNameText(name).view());
   result_->texts_.shareBlocks(source_->texts_);
   result_->source_ = source_;
-  heads_.reserve(source_->getNodeCount());
+  heads_.reserve(withRoom(source_->getNodeCount()));
   for (Node node = 0; node < source_->getNodeCount(); ++node) {
     heads_.push_back(
         {source_->getName(node), source_->nodes_[node].firstAttribute, source_->getAttributeCount(node)});
@@ -36,7 +39,7 @@ void XmlDocumentEditor::link() {
   isChanged_ = true;
   if (!links_.empty()) return;
   const Node count = source_->getNodeCount();
-  links_.reserve(count);
+  links_.reserve(withRoom(count));
   for (Node node = 0; node < count; ++node) {
     Link linked = {source_->getParent(node), noNode, noNode, noNode, noNode};
     if (linked.parent != noNode) {

@@ -3,15 +3,17 @@
 
 #include <rapidjson/writer.h>
 
+#include "repository/storage/JsonAllocator.h"
 #include "repository/storage/StoredOrigin.h"
 #include "repository/storage/Utf8.h"
 
 BlockSink::~BlockSink() = default;
 
 // The JSON writer with line breaks, and with texts copied as they are where nothing is to be escaped.
-class JsonStoreModelWriter::Lines : public rapidjson::Writer<BlockOutput> {
+class JsonStoreModelWriter::Lines
+    : public rapidjson::Writer<BlockOutput, rapidjson::UTF8<>, rapidjson::UTF8<>, JsonAllocator> {
  public:
-  using Base = rapidjson::Writer<BlockOutput>;
+  using Base = rapidjson::Writer<BlockOutput, rapidjson::UTF8<>, rapidjson::UTF8<>, JsonAllocator>;
   using Base::Base;
 
   void beginObjectOnNewLine() {

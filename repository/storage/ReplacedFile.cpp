@@ -12,6 +12,8 @@
 #include <system_error>
 
 #include "repository/KYRRepositoryMessages.h"
+#include "repository/storage/SignalHold.h"
+#include "repository/storage/UnfinishedFiles.h"
 
 namespace {
 
@@ -32,9 +34,12 @@ ReplacedFile::ReplacedFile(const KYRFile& target, Wait wait)
   create();
 }
 
-ReplacedFile::~ReplacedFile() {
+ReplacedFile::~ReplacedFile() { abandon(); }
+
+void ReplacedFile::abandon() noexcept {
   if (descriptor_ >= 0) ::close(descriptor_);
   if (!temporary_.empty()) ::unlink(temporary_.c_str());
+  UnfinishedFiles::drop(unfinished_);
 }
 
 void ReplacedFile::resolveTarget() {
@@ -56,17 +61,22 @@ void ReplacedFile::resolveTarget() {
 
 void ReplacedFile::create() {
   constexpr int mostTries = 1000;
+  const SignalHold hold;  // between making the file and noting it
   for (int tries = 0; tries < mostTries && descriptor_ < 0; ++tries) {
     std::string name = directory_ + nextTemporaryName();
     descriptor_ = ::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, newFileMode);
     if (descriptor_ >= 0) {
       temporary_ = std::move(name);
+      unfinished_ = UnfinishedFiles::add(temporary_);
     } else if (errno != EEXIST) {
       raise(errno);
     }
   }
   if (descriptor_ < 0) raise(EEXIST);
-  if (isModeKept_ && ::fchmod(descriptor_, mode_) != 0) raise(errno);
+  if (!isModeKept_ || ::fchmod(descriptor_, mode_) == 0) return;
+  const int error = errno;
+  abandon();
+  raise(error);
 }
 
 void ReplacedFile::write(std::string_view block) {
@@ -84,6 +94,8 @@ void ReplacedFile::commit() {
   close();
   if (::rename(temporary_.c_str(), target_.c_str()) != 0) raise(errno);
   temporary_.clear();
+  UnfinishedFiles::drop(unfinished_);
+  unfinished_ = 0;
   if (!waitsForDisk) return;
   // The new name reaches the disk with the directory. The file itself is whole by now, so a file
   // system that cannot do this is no failure.

@@ -16,7 +16,7 @@ class KYR_EXPORT ReplacedFile : public BlockSink {
   /// Makes the new file in the directory of the target. A target that exists must be a regular file;
   /// a link to one is followed, and its permissions are kept.
   explicit ReplacedFile(const KYRFile& target, Wait wait = Wait::untilOnDisk);
-  /// Removes the new file when it has not taken the target's place.
+  /// Removes the new file when it has not taken the target's place. UnfinishedFiles knows it until then.
   ~ReplacedFile() override;
   void write(std::string_view block) override;
   /// The new file, for what writes to it by name.
@@ -27,6 +27,7 @@ class KYR_EXPORT ReplacedFile : public BlockSink {
  private:
   void resolveTarget();
   void create();
+  void abandon() noexcept;
   [[noreturn]] void raise(int error) const;
   void close();
 
@@ -34,6 +35,7 @@ class KYR_EXPORT ReplacedFile : public BlockSink {
   std::string target_;     // behind links
   std::string directory_;  // of the target, with the "/"
   std::string temporary_;  // empty while there is no such file
+  int unfinished_ = 0;     // its place among the unfinished files
   unsigned int mode_;
   Wait wait_;
   bool isModeKept_ = false;

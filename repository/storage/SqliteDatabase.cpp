@@ -6,10 +6,10 @@
 #include <utility>
 
 #include "repository/KYRRepositoryMessages.h"
+#include "repository/storage/SqliteWaiting.h"
 
 SqliteDatabase::SqliteDatabase(const std::string& path, const KYRString& shownPath) : shownPath_(shownPath) {
-  // A name such as ":memory:" is a file here, too.
-  const std::string place = path.find('/') == std::string::npos ? "./" + path : path;
+  const std::string place = SqliteWaiting::placeOf(path);
   constexpr int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX;
   if (sqlite3_open_v2(place.c_str(), &handle_, flags, nullptr) == SQLITE_OK) return;
   const std::string reason = handle_ != nullptr ? sqlite3_errmsg(handle_) : sqlite3_errstr(SQLITE_NOMEM);

@@ -10,6 +10,7 @@
 #include "repository/KYRRepositoryMessages.h"
 #include "repository/storage/BackgroundSink.h"
 #include "repository/storage/BlockInput.h"
+#include "repository/storage/JsonAllocator.h"
 #include "repository/storage/JsonStoreModelWriter.h"
 #include "repository/storage/ReplacedFile.h"
 #include "repository/storage/SavedModelBuilder.h"
@@ -98,7 +99,7 @@ std::unique_ptr<KYRStoreModel> loadStoreModel(const KYRFile& file) {
   constexpr unsigned int flags = rapidjson::kParseIterativeFlag | rapidjson::kParseValidateEncodingFlag;
   BlockInput input(file);
   JsonEvents events(file.getPath(), input);
-  rapidjson::Reader reader;
+  rapidjson::GenericReader<rapidjson::UTF8<>, rapidjson::UTF8<>, JsonAllocator> reader;
   const rapidjson::ParseResult result = reader.Parse<flags>(input, events);
   if (result.IsError()) refuseJson(file, result.Offset(), result.Code());
   // RapidJSON takes a zero byte for the end.

@@ -33,7 +33,9 @@ LAYERS = {
     "database": CONVERSION,
     "convert": CONVERSION,
     "diagram": CONVERSION,
-    "bridge": CONVERSION,
+    # What became of the elements of a file: looks at all of an import and is called by its driver.
+    "trace": CONVERSION,
+    "bridge": CONVERSION | {"trace"},
     # What a host may do to a file before it is read.
     "normalize": READER,
     # A saved model as a page; the page's own files stand in report/page.

@@ -47,7 +47,17 @@ FEWEST = {
     "niem.ntac.rfp": (260, 0),
 }
 
+# Part of a file's name -> how many objects change their parent, and why that is meant.
+MOVED = {
+    # Two packages have an id twice: what the second ones hold stood in the first ones.
+    "xmi20161101_large_test": 14,
+    # Read as part of another class, since a reference had ended one element too many.
+    "openEHR-RM.xmi": 1,
+}
+
 UNKNOWN_TYPE = "undefined"
+LOOSE = "Logical View"
+TOP = "(model)"
 
 
 class Model:
@@ -72,14 +82,16 @@ class Model:
             source = value.get("sourceId")
             if source:
                 self.objects[value["class"], source].append(value)
+            here = TOP if value["class"] == "KYRStoreModel" else source or value.get("name", "")
             for entry in value.values():
                 if isinstance(entry, list):
-                    stack.extend((each, source or value.get("name", "")) for each in entry
-                                 if isinstance(each, dict))
+                    stack.extend((each, here) for each in entry if isinstance(each, dict))
 
     def facts(self, value):
         """What must stay the same of an object."""
-        facts = {"name": value.get("name", "").split("/")[0], "parent": value["parent"],
+        # Without a name of its own the model has that of the file.
+        name = "" if value["class"] == "KYRStoreModel" else value.get("name", "").split("/")[0]
+        facts = {"name": name, "parent": value["parent"],
                  "multiplicity": value.get("multiplicity", "")}
         for key in ("type", "returnType"):
             target = self.by_number.get(value.get(key))
@@ -98,10 +110,27 @@ def run(kyr, path, out, *options):
     return result.returncode, result.stdout.decode("utf-8", "replace")
 
 
-def is_better(key, before, after):
+def is_stand_in(key, name, with_step):
+    """Whether an object that is not there any more only stood for something that is."""
+    kind, source = key
+    if kind == "KYRStoreModel":
+        return True  # several roots are one model now
+    if kind == "KYRAttribute":
+        return ("KYRAssociationRole", source) in with_step.objects  # the end of an association
+    if kind in ("KYRDerivedType", "KYRClassType"):  # made for what has a type; the class itself is there
+        return ("KYRClass", source.removesuffix("_type")) in with_step.objects
+    return False
+
+
+def is_better(key, before, after, with_step):
     """Whether a fact was only a stand-in for what is told now."""
     if key in ("type", "returnType"):
         return before in ("", UNKNOWN_TYPE) or before.split("/")[0] == after.split("/")[0]
+    if key == "parent":
+        # A package for what stood nowhere; or the root that is a package now; or a class at the top is found
+        # now, so that there is a package for loose elements, which takes in all others.
+        return (before == LOOSE or before == TOP and
+                (after == LOOSE or ("KYRDesignPackage", after) in with_step.objects))
     return False
 
 
@@ -109,15 +138,16 @@ def compare(without, with_step):
     """What an import without the step has and one with it has not, or has otherwise."""
     problems = []
     for key, values in without.objects.items():
+        name = values[0].get("name", "")
         found = with_step.objects.get(key)
         if not found:
-            problems.append(f"{key[0]} {key[1]} ({values[0].get('name', '')}) is missing")
+            if not is_stand_in(key, name, with_step):
+                problems.append(f"{key[0]} {key[1]} ({name}) is missing")
             continue
         before, after = without.facts(values[0]), with_step.facts(found[0])
-        problems += [f"{key[0]} {key[1]} ({values[0].get('name', '')}): {fact} {before[fact]!r} became "
-                     f"{after[fact]!r}"
+        problems += [f"{key[0]} {key[1]} ({name}): {fact} {before[fact]!r} became {after[fact]!r}"
                      for fact in before
-                     if before[fact] != after.get(fact) and not is_better(fact, before[fact], after.get(fact))]
+                     if before[fact] != after[fact] and not is_better(fact, before[fact], after[fact], with_step)]
     return problems
 
 
@@ -134,6 +164,9 @@ def check(kyr, path, options):
         rules = [line for line in said_with.splitlines() if line.startswith("normalised")]
         lost = [line for line in said.splitlines() if line.startswith("lost")]
         problems = compare(without, with_step) if without else []
+        moved = next((count for part, count in MOVED.items() if part in path.name), 0)
+        if len(problems) == moved and all(": parent " in problem for problem in problems):
+            problems = []
         if "nothing to change" in "".join(rules) and first.read_bytes() != second.read_bytes():
             problems.append("no rule fired, but the bytes differ")
     fewest = next((entry for part, entry in FEWEST.items() if part in path.name), (0, 0))

@@ -63,6 +63,29 @@ TEST(AssociationLines, TheFirstRoleIsTheOneAtTheFirstEnd) {
   EXPECT_TRUE(model.lists(model.get<KYRAssociation>("ab")));
 }
 
+TEST(AssociationLines, OfMoreThanTwoRolesTheFirstTwoAreDrawn) {
+  const std::string association =
+      element("Association", "xmi:id='abc'", ownedEnd("na", "a") + ownedEnd("nb", "b") + ownedEnd("nc", "c"));
+  const DrawnModel model(DrawnModel::ofFile(drawnFile(
+      drawnElements + association + diagramElement("d", "D"),
+      frame("d",
+            boxes + shape("Association", "L", "abc", ends("B", "C") + geometry("0, 0; 10, 10; 20, 10; "))))));
+  EXPECT_EQ(model.pointsOf("nb"), "13,11;0,0");  // the first role is not that of the first end
+  EXPECT_EQ(model.pointsOf("na"), "13,11;26,11");
+  EXPECT_TRUE(model.drawn<KYRRelationshipProjection>("nc").empty());
+}
+
+TEST(AssociationLines, BothEndsCanBeOneBox) {
+  const std::string association =
+      element("Association", "xmi:id='aa'", ownedEnd("s", "a") + ownedEnd("t", "a"));
+  const DrawnModel model(DrawnModel::ofFile(drawnFile(
+      drawnElements + association + diagramElement("d", "D"),
+      frame("d",
+            boxes + shape("Association", "L", "aa", ends("A", "A") + geometry("0, 0; 10, 10; 20, 10; "))))));
+  EXPECT_EQ(model.pointsOf("s"), "13,11;0,0");
+  EXPECT_EQ(model.pointsOf("t"), "13,11;26,11");
+}
+
 TEST(AssociationLines, FlagsTellWhichNamesShow) {
   EXPECT_EQ(flagsOf(""), 0);
   EXPECT_EQ(flagsOf(valued("nameVisible", "TRUE")), 0x2);

@@ -167,6 +167,22 @@ TEST(KYRSAX2Parser, TagsAndAttributesLiveAsLongAsTheParserAlsoAfterAFailure) {
   EXPECT_STREQ(keeper.values[0], "long enough to be a value");
 }
 
+TEST(KYRSAX2Parser, TheLineIsThatOfThePosition) {
+  struct Lines {
+    KYRSAX2Parser* parser = nullptr;
+    std::vector<std::uint32_t> lines;
+  } lines;
+  const auto note = [](void* data, const KYRString&, const KYRStringArray&) {
+    static_cast<Lines*>(data)->lines.push_back(static_cast<Lines*>(data)->parser->getLine());
+  };
+  const TemporaryFile file("<a>\n<b/>\r\n\n<c/></a>");
+  KYRSAX2Parser parser(&lines, nullptr, note, nullptr, nullptr, nullptr);
+  EXPECT_EQ(parser.getLine(), 0U);
+  lines.parser = &parser;
+  parser.parseFile(file.file());
+  EXPECT_EQ(lines.lines, (std::vector<std::uint32_t>{1, 2, 4}));
+}
+
 TEST(KYRSAX2Parser, EventsCostNoAllocationOfTheirOwn) {
   const auto allocationsOf = [](int elements) {
     std::string xml = "<a>";

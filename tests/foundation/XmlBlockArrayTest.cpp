@@ -21,4 +21,44 @@ TEST(XmlBlockArray, GrowsOverBlocksAndMovesNothing) {
   EXPECT_EQ(array.getMemorySize(), count * sizeof(std::size_t));
 }
 
+TEST(XmlBlockArray, SharesTheEntriesOfAnotherAndGoesOnInABlockOfItsOwn) {
+  constexpr std::size_t blockSize = XmlBlockArray<int>::firstBlockSize;
+  XmlBlockArray<int> other;
+  for (int i = 0; i < static_cast<int>(2 * blockSize) + 3; ++i) other.emplaceBack(i);
+  XmlBlockArray<int> array;
+  array.shareBlocks(other);
+  EXPECT_EQ(array.size(), 4 * blockSize);  // where the block that is begun would end
+  EXPECT_EQ(&array[2 * blockSize + 2], &other[2 * blockSize + 2]);
+  EXPECT_EQ(array.getMemorySize(), 0U);
+  array.emplaceBack(7);
+  EXPECT_EQ(array[4 * blockSize], 7);
+  EXPECT_EQ(array.getMemorySize(), sizeof(int));
+}
+
+TEST(XmlBlockArray, SharesNothingOfAnEmptyOne) {
+  const XmlBlockArray<int> other;
+  XmlBlockArray<int> array;
+  array.shareBlocks(other);
+  EXPECT_EQ(array.size(), 0U);
+  array.emplaceBack(7);
+  EXPECT_EQ(array[0], 7);
+}
+
+TEST(XmlBlockArray, AppendsRangesAcrossBlocks) {
+  constexpr std::size_t blockSize = XmlBlockArray<int>::firstBlockSize;
+  XmlBlockArray<int> other;
+  for (int i = 0; i < static_cast<int>(3 * blockSize); ++i) other.emplaceBack(i);
+  for (const std::size_t before : {std::size_t{0}, std::size_t{1}, blockSize - 1, blockSize}) {
+    for (const std::size_t from : {std::size_t{0}, std::size_t{5}, blockSize - 1, blockSize}) {
+      for (const std::size_t count : {std::size_t{0}, std::size_t{1}, blockSize, 2 * blockSize - 1}) {
+        XmlBlockArray<int> array;
+        for (std::size_t i = 0; i < before; ++i) array.emplaceBack(-1);
+        array.appendFrom(other, from, count);
+        ASSERT_EQ(array.size(), before + count);
+        for (std::size_t i = 0; i < count; ++i) ASSERT_EQ(array[before + i], other[from + i]);
+      }
+    }
+  }
+}
+
 }  // namespace

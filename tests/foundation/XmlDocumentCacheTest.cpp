@@ -39,4 +39,20 @@ TEST(XmlDocumentCache, HoldsSeveralDocumentsAtATime) {
   EXPECT_EQ(cache.find({2, 2, 2, 2, 2}, ""), second);
 }
 
+TEST(XmlDocumentCache, KnowsAFileAsWrittenAndAsRewritten) {
+  using Form = XmlDocumentCache::Form;
+  XmlDocumentCache cache;
+  const XmlFileIdentity identity{1, 2, 3, 4, 5};
+  const auto written = readDocument("<a/>");
+  const auto rewritten = readDocument("<b/>");
+  cache.add(identity, "", written);
+  EXPECT_EQ(cache.find(identity, "", Form::rewritten), nullptr);
+  cache.add(identity, "", rewritten, Form::rewritten);
+  EXPECT_EQ(cache.find(identity, "", Form::rewritten), rewritten);
+  EXPECT_EQ(cache.find(identity, ""), written);
+  cache.forgetRewritten();
+  EXPECT_EQ(cache.find(identity, "", Form::rewritten), nullptr);
+  EXPECT_EQ(cache.find(identity, ""), written);
+}
+
 }  // namespace

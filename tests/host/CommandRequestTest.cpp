@@ -48,6 +48,23 @@ TEST(CommandRequest, TheFormatOfTheModelIsAnOption) {
   EXPECT_EQ(read({"import", "a", "--format", "xml"}).kind, Kind::wrongUsage);
 }
 
+TEST(CommandRequest, AnImportCanHaveSeveralFiles) {
+  const CommandRequest request = read({"import", "a", "-j", "3", "b", "-o", "out", "c"});
+  EXPECT_EQ(request.import.files, (std::vector<std::string>{"a", "b", "c"}));
+  EXPECT_EQ(request.import.file, "a");
+  EXPECT_EQ(request.import.jobs, 3U);
+  EXPECT_EQ(read({"import", "a"}).import.jobs, 0U);
+}
+
+TEST(CommandRequest, ADifferenceIsOfTwoModels) {
+  const CommandRequest request = read({"diff", "a.json", "b.json", "--json"});
+  EXPECT_EQ(request.kind, Kind::diff);
+  EXPECT_EQ(request.diff.before, "a.json");
+  EXPECT_EQ(request.diff.after, "b.json");
+  EXPECT_TRUE(request.diff.isJson);
+  EXPECT_EQ(read({"diff", "a.json"}).kind, Kind::wrongUsage);
+}
+
 TEST(CommandRequest, AWrongCommandIsNamed) {
   EXPECT_EQ(read({"exprot", "a"}).text, "There is no command 'exprot'");
 }
@@ -92,9 +109,9 @@ TEST(CommandRequest, HelpAndVersionAreAnswersAlsoWithoutTheRest) {
 }
 
 TEST(CommandRequest, WrongUsageSaysWhyAndHowFarTheWordsWereUnderstood) {
-  const CommandRequest request = read({"import", "a", "b"});
+  const CommandRequest request = read({"inspect", "a", "b"});
   EXPECT_EQ(request.kind, Kind::wrongUsage);
-  EXPECT_EQ(request.command, "kyr import");
+  EXPECT_EQ(request.command, "kyr inspect");
   EXPECT_NE(request.text.find('b'), std::string::npos);
   EXPECT_EQ(read({"other"}).command, "kyr");
 }

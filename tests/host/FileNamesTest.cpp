@@ -75,6 +75,13 @@ TEST(FileNames, OneFileUnderTwoNamesIsTheSame) {
   unlink(link.c_str());
 }
 
+TEST(FileNames, AllPathsOfAFileHaveOneIdentity) {
+  const TemporaryFile file("");
+  EXPECT_EQ(FileNames::identityOf(file.path), FileNames::identityOf("/tmp/../" + file.path));
+  EXPECT_NE(FileNames::identityOf(file.path), FileNames::identityOf(file.path + ".other"));
+  EXPECT_EQ(FileNames::identityOf("/tmp/kyr-none"), FileNames::identityOf("/tmp/./kyr-none"));
+}
+
 TEST(FileNames, FilesThatAreNotThereYetAreComparedByTheirPlace) {
   EXPECT_TRUE(FileNames::isSame("/tmp/kyr-none.json", "/tmp/./kyr-none.json"));
   EXPECT_FALSE(FileNames::isSame("/tmp/kyr-none.json", "/tmp/kyr-nil.json"));

@@ -1,6 +1,7 @@
 // The lines of the log, in both forms.
 #include "host/HostLog.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 
 #include <fstream>
@@ -59,6 +60,26 @@ TEST(HostLog, ShowsTheTerminalOnlyWhatIsWanted) {
   log.log(event("a status", KYRLogLevel::status));
   log.log(event("a warning", KYRLogLevel::warning));
   EXPECT_EQ(testing::internal::GetCapturedStderr(), "WARNING KYRTEST_X0001 a warning\n");
+}
+
+TEST(HostLog, PassesOnWhatAnotherLogHasMade) {
+  const TemporaryFile file("");
+  HostLog log(HostLog::Format::text, nothingShown);
+  log.openFile(file.path);
+  testing::internal::CaptureStderr();
+  log.passOn("shown\n", "logged\n");
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "shown\n");
+  EXPECT_EQ(contentOf(file.path), "logged\n");
+}
+
+TEST(HostLog, WritesToAFileThatIsOpenAlready) {
+  const TemporaryFile file("");
+  {
+    HostLog log(HostLog::Format::text, nothingShown);
+    log.openFile(::open(file.path.c_str(), O_WRONLY));
+    log.fail("the end");
+  }
+  EXPECT_EQ(contentOf(file.path), "the end\n");
 }
 
 TEST(HostLog, AFileThatCannotBeOpenedIsAnExceptionWithPathAndReason) {

@@ -10,15 +10,16 @@ import stat
 import subprocess
 import unittest
 
-from support import (BROKEN, DONE, FAILED, KYR, NO_MODEL, SAMPLES, SMALL, CommandTest, model_text,
-                     saved_objects)
+from support import (BROKEN, DONE, FAILED, KYR, NO_MODEL, SAMPLES, SMALL, WRONG_USAGE, CommandTest,
+                     model_text, saved_objects)
 
 TIME = "2026-01-01T00:00:00Z"
 SUMMARY = re.compile(
     r"Wrote '(?P<output>.*)' in \d+\.\d\d s\n"
     r"packages (?P<packages>\d+), classes (?P<classes>\d+), interfaces (?P<interfaces>\d+), "
     r"attributes (?P<attributes>\d+), operations (?P<operations>\d+), arguments (?P<arguments>\d+), "
-    r"diagrams (?P<diagrams>\d+)\n")
+    r"diagrams (?P<diagrams>\d+)\n"
+    r"(?:lost for the way .*\n)?")
 INTERFACE = 9
 
 
@@ -238,13 +239,14 @@ class Log(CommandTest):
         summary = json.loads(result.output)
         self.assertEqual(summary.pop("output"), "out.json")
         self.assertGreaterEqual(summary.pop("seconds"), 0)
+        self.assertEqual(summary.pop("lost")["classes"], 1)  # the class without an id
         self.assertEqual(summary, counts_of(self.folder / "out.json"))
         self.assertEqual(summary, {"packages": 1, "classes": 2, "interfaces": 0, "attributes": 1,
                                    "operations": 1, "arguments": 1, "diagrams": 0})
 
     def test_timing_tells_the_phases_in_text_and_json(self):
         phases = ["tokenise", "objects", "link", "extension", "convert", "finish", "save", "release"]
-        lines = self.kyr("import", SMALL, "--timing").output.splitlines()[2:]
+        lines = self.kyr("import", SMALL, "--timing").output.splitlines()[-8:]
         self.assertEqual([line.split()[-1] for line in lines], phases)
         for line in lines:
             self.assertRegex(line, r"^ *\d+\.\d{3} s  [a-z]+$")
@@ -345,6 +347,50 @@ class Streams(CommandTest):
                 self.assertIn("[KYRHOST_F0013] The standard output cannot be written to: No space left",
                               result.errors)
             self.assertEqual(self.kyr("import", SMALL, stdout=full).code, DONE)
+
+
+class Trace(CommandTest):
+    def trace(self, *arguments):
+        result = self.kyr("import", *arguments, "--trace", "t.jsonl")
+        lines = (self.folder / "t.jsonl").read_text(encoding="utf-8").splitlines()
+        return result, [json.loads(line) for line in lines]
+
+    def test_lines_stand_as_in_the_file_and_the_last_is_the_sum(self):
+        content = "\n".join(("", "<packagedElement xmi:type='uml:Class' xmi:id='c'/>",
+                             "<packagedElement xmi:type='uml:Actor' xmi:id='a' name='A'/>"))
+        result, lines = self.trace(self.write("small.xmi", model_text(content=content)))
+        self.assertEqual(result.code, DONE)
+        self.assertEqual([(line["reason"], line["id"], line["line"]) for line in lines[:-1]],
+                         [("no-name", "c", 4), ("kind-not-converted", "a", 5)])
+        self.assertEqual(lines[-1], {"elements": 3, "converted": 1, "absorbed": 0, "lost": 2})
+        self.assertIn("elements 3: converted 1, absorbed 0, lost 2; 't.jsonl' tells of each\n  1  kind-not",
+                      result.output)
+
+    def test_the_summary_as_json_has_it_too(self):
+        result, lines = self.trace(SAMPLES / "plain.xmi", "--log-format", "json", "-o", "m.json")
+        trace = json.loads(result.output)["trace"]
+        self.assertEqual({key: trace[key] for key in lines[-1]}, lines[-1])
+        self.assertEqual(sum(trace["reasons"].values()),
+                         sum(line.get("count", 1) for line in lines[:-1]))
+
+    def test_a_failed_import_leaves_the_file_as_it_was(self):
+        self.write("t.jsonl", "before")
+        result = self.kyr("import", self.write("none.xmi", NO_MODEL), "--trace", "t.jsonl")
+        self.assertEqual(result.code, FAILED)
+        self.assertEqual((self.folder / "t.jsonl").read_text(), "before")
+
+    def test_it_is_none_of_the_other_files(self):
+        small = self.write("small.xmi", model_text())
+        for trace in ("small.xmi", "small.json", "log"):
+            with self.subTest(trace=trace):
+                result = self.kyr("import", small, "--log-file", "log", "--trace", trace)
+                self.assertEqual(result.code, WRONG_USAGE)
+                self.assertIn("KYRHOST_F0060", result.errors)
+
+    def test_a_folder_that_is_not_there_is_an_error_before_the_import(self):
+        result = self.kyr("import", self.write("small.xmi", model_text()), "--trace", "no/t.jsonl")
+        self.assertEqual(result.code, FAILED)
+        self.assertFalse((self.folder / "small.json").exists())
 
 
 if __name__ == "__main__":

@@ -16,7 +16,8 @@ class WrongUsage(CommandTest):
             (["export"], "There is no command 'export'. 'kyr --help'"),
             (["--json"], "'kyr --help'"),
             (["import"], "'kyr import --help'"),
-            (["import", "a.xmi", "b.xmi"], "'kyr import --help'"),
+            (["import", "a.xmi", "-j", "0"], "'kyr import --help'"),
+            (["import", "a.xmi", "-j", "-1"], "'kyr import --help'"),
             (["import", "a.xmi", "--loud"], "'kyr import --help'"),
             (["import", "a.xmi", "-o"], "'kyr import --help'"),
             (["import", "a.xmi", "-o", ""], "the name is empty. 'kyr import --help'"),
@@ -43,7 +44,7 @@ class WrongUsage(CommandTest):
         self.assertEqual(self.names(), [])
 
     def test_a_wrong_word_is_shown_escaped(self):
-        result = self.kyr("import", "a.xmi", "\x1b[2Jb.xmi")
+        result = self.kyr("inspect", "a.xmi", "\x1b[2Jb.xmi")
         self.assertFails(result, WRONG_USAGE, "\\x1b[2Jb.xmi")
         self.assertNotIn("\x1b", result.errors)
 
@@ -86,10 +87,11 @@ class Help(CommandTest):
 
     def test_help_names_every_option(self):
         options = {
-            "import": ["--output", "--format", "--append", "--root-package", "--modification-time", "--encoding", "--quiet", "--log-format",
-                       "--log-file", "--plugin"],
+            "import": ["--jobs", "--output", "--format", "--append", "--root-package", "--modification-time", "--encoding",
+                       "--quiet", "--timing", "--log-format", "--log-file", "--plugin", "--normalize[=all]"],
             "info": ["--json", "--plugin", "--types", "STORE"],
-            "inspect": ["--json", "--objects", "--encoding"],
+            "inspect": ["--json", "--objects", "--normalize[=all]", "--encoding"],
+            "normalize": ["--output", "--all", "--encoding"],
         }
         for command, names in options.items():
             output = self.kyr(command, "--help").output
@@ -98,7 +100,7 @@ class Help(CommandTest):
 
     def test_the_documentation_has_every_option(self):
         page = (pathlib.Path(__file__).parents[2] / "docs" / "command-line.md").read_text(encoding="utf-8")
-        for command in ("import", "info", "inspect", "diagram", "diff"):
+        for command in ("import", "info", "inspect", "diagram", "diff", "normalize"):
             section = page.split(f"## kyr {command}\n")[1].split("\n## ")[0]
             for option in re.findall(r"--[a-z-]+", self.kyr(command, "--help").output.split("Examples")[0]):
                 if option != "--help":
@@ -106,7 +108,7 @@ class Help(CommandTest):
 
     def test_the_list_of_commands_has_one_line_for_each(self):
         lines = self.kyr("--help").output.splitlines()
-        for command in ("import", "info", "inspect", "diagram", "diff"):
+        for command in ("import", "info", "inspect", "diagram", "diff", "normalize"):
             self.assertEqual(sum(line.startswith(f"  {command} ") for line in lines), 1)
 
     def test_the_version_is_that_of_the_plug_in(self):

@@ -37,6 +37,16 @@ TEST(DeclaredTypeRule, ElementsGetTheClassOfTheirRow) {
        {"in the data of a tool", classWith("<xmi:Extension><ownedAttribute/></xmi:Extension>"), ""}});
 }
 
+TEST(DeclaredTypeRule, NoRowIsPatchedByWhatStandsBesideTheModelEither) {
+  const auto file = [](const std::string& attribute) {
+    return "<xmi:XMI><uml:Model xmi:id='m'/><S:Block><base xmi:type='uml:Class' xmi:id='c'><" + attribute +
+           " xmi:id='a'/></base></S:Block></xmi:XMI>";
+  };
+  DeclaredTypeRule rule;
+  EXPECT_EQ(changedBy(rule, file("ownedAttribute")).text,
+            plain(file("ownedAttribute xmi:type='uml:Property'")));
+}
+
 TEST(DeclaredTypeRule, EveryChildRowOfTheReaderIsServed) {
   for (const TagHandler& row : DispatchRows::get().context) {
     if (row.tag == nullptr || row.field != nullptr) continue;

@@ -23,6 +23,12 @@ TEST(NestedClassifierRule, ClassifiersMoveAndWhatDescribesAClassStays) {
         open + close +
             "<packagedElement xmi:type='uml:Class' xmi:id='d'></packagedElement>"
             "<packagedElement xmi:type='uml:Class' xmi:id='e'/>"},
+       {"beside members of the package",
+        "<ownedMember xmi:type='uml:Class' xmi:id='c'><nestedClassifier xmi:type='uml:Class' "
+        "xmi:id='d'/></ownedMember>",
+        "<packagedElement xmi:type='uml:Class' xmi:id='c'></packagedElement><packagedElement "
+        "xmi:type='uml:Class' "
+        "xmi:id='d'/>"},
        {"a behaviour", open + "<ownedBehavior xmi:type='uml:Activity' xmi:id='d'/>" + close, ""},
        {"a behaviour as a nested classifier",
         open + "<nestedClassifier xmi:type='uml:Activity' xmi:id='d'/>" + close, ""},

@@ -1,11 +1,17 @@
 // The step as a whole: what it leaves alone, the order of its rules, positions, and what it costs.
 #include "normalize/Normalizer.h"
 
+#include <fstream>
+#include <map>
+#include <random>
+
 #include "foundation/KYRDOM.h"
 #include "normalize/AttributeOrderRule.h"
 #include "normalize/DeclaredTypeRule.h"
 #include "normalize/ScalarElementRule.h"
 #include "tests/normalize/NormalizedFile.h"
+#include "uml/UMLCast.h"
+#include "uml/UMLClasses.h"
 #include "xmi/XMIParser.h"
 
 namespace {
@@ -103,6 +109,122 @@ TEST(Normalizer, StreamAndTreesReadTheSame) {
   ASSERT_NE(root->getFirstElement("uml:Model"), nullptr);
   EXPECT_EQ(root->getFirstElement("uml:Model")->getElementCount("packagedElement"), 2);
   EXPECT_EQ(parser.getObjects().getCount(), 3U);
+}
+
+// The name of the type is an element there, which a step would turn into an attribute.
+TEST(Normalizer, AModuleIsReadAsWrittenEvenWhenItIsTheInput) {
+  const TemporaryFile file("");
+  const std::string module = file.path.substr(file.path.rfind('/') + 1);
+  std::ofstream(file.path) << xmi(
+      element("Class", "xmi:id='c' name='C'",
+              "<ownedAttribute xmi:type='uml:Property' xmi:id='a' name='a'><type href='" + module +
+                  "#t'/></ownedAttribute><ownedAttribute xmi:type='uml:Property' xmi:id='b' name='b'><type "
+                  "href='" +
+                  module + "#u'/></ownedAttribute>") +
+      element("PrimitiveType", "xmi:id='t'", "<name>Money</name>") +
+      element("PrimitiveType", "xmi:id='u' name='Weight'"));
+  DispatchRows::resetForTests();
+  Normalizer normalizer(fileName);
+  const XmlRewriting rewriting(file.file(), normalizer);
+  RecordingLog log;
+  XMIParser parser(&log);
+  parser.parse(file.file());
+  EXPECT_EQ(normalizer.getReport().of(NormalizeRule::scalarElement).fired, 1U);
+  std::map<std::string, std::string> types;
+  for (unsigned int i = 0; i < parser.getObjects().getSlotCount(); ++i) {
+    const auto* const property = umlCast<UMLProperty>(parser.getObjects().at(i));
+    if (property == nullptr) continue;
+    types[std::string(property->id.view())] =
+        property->type == nullptr ? "none" : std::string(property->type->name.view());
+  }
+  EXPECT_EQ(types["a"], "none");
+  EXPECT_EQ(types["b"], "Weight");
+}
+
+// Random documents of the words that the reader knows, and some that it does not.
+class RandomFile {
+ public:
+  explicit RandomFile(unsigned int seed) : random_(seed) {
+    text = "<xmi:XMI xmlns:xmi='http://www.omg.org/XMI' xmlns:uml='http://www.omg.org/spec/UML/20131001'>";
+    const std::size_t roots = 1 + pick(3);
+    for (std::size_t i = 0; i < roots; ++i)
+      addElement(one({"uml:Model", "uml:Package", "uml:Class", "S:Block", "uml:Profile"}), 0);
+    text += "</xmi:XMI>";
+  }
+  std::string text;
+
+ private:
+  std::size_t pick(std::size_t count) { return random_() % count; }
+  std::string one(std::initializer_list<const char*> words) { return *(words.begin() + pick(words.size())); }
+  std::string id() { return "i" + std::to_string(pick(40)); }
+  std::string type() {
+    return pick(3) == 0 ? one({"uml:Model", "uml:Port", "uml:Component", "uml:Profile", "uml:StateMachine"})
+                        : ReaderVocabulary::typeOfKind(static_cast<int>(pick(117)));
+  }
+  std::string tag() {
+    const auto& rows = DispatchRows::get().context;
+    if (pick(3) == 0) {
+      return one({"packagedElement", "ownedMember", "nestedPackage", "ownedType", "ownedPort", "name",
+                  "visibility", "unknown", "uml:Model", "xmi:Extension", "eAnnotations", "nestedClassifier"});
+    }
+    return rows[pick(rows.size() - 1)].tag;
+  }
+  void addElement(const std::string& tagName, int depth) {
+    text += "<" + tagName;
+    const bool isToolData = tagName == "xmi:Extension" || tagName == "eAnnotations";
+    if (!isToolData && pick(2) == 0) text += (pick(6) == 0 ? " xsi:type='" : " xmi:type='") + type() + "'";
+    if (pick(2) == 0) text += " name='" + one({"a", "visibility", "type", "name"}) + "'";
+    if (pick(3) != 0) text += " xmi:id='" + (pick(9) == 0 ? "" : id()) + "'";
+    const bool canRefer = !tagName.starts_with("uml:");
+    if (canRefer && pick(6) == 0) text += " xmi:idref='" + id() + "'";
+    if (canRefer && pick(9) == 0) text += " href='#" + id() + "'";
+    if (pick(9) == 0) text += " type='" + id() + "'";
+    if (pick(9) == 0) text += " memberEnd='" + id() + " " + id() + "'";
+    if (pick(9) == 0) text += " visibility='name'";
+    text += ">";
+    if (pick(4) == 0) text += "text";
+    const std::size_t children = depth > 3 ? 0 : pick(4);
+    for (std::size_t i = 0; i < children; ++i) addElement(tag(), depth + 1);
+    text += "</" + tagName + ">";
+  }
+  std::mt19937 random_;
+};
+
+TEST(Normalizer, OfAnyDocumentTheReaderMakesWhatTheRulesExpectAndPatchesNoRow) {
+  for (unsigned int seed = 0; seed < 300; ++seed) {
+    const RandomFile random(seed);
+    SCOPED_TRACE(seed);
+    for (const Normalizer::Extent extent : {Normalizer::Extent::usual, Normalizer::Extent::all}) {
+      const std::string once = normalized(random.text, nullptr, extent);
+      NormalizeReport report;
+      ASSERT_EQ(normalized(once, &report, extent), once);
+      ASSERT_FALSE(report.hasFired());
+      NormalizedDocument document(documentOf(once), fileName, report);
+      document.findRegions();
+      if (document.getRoots().empty() || report.attributeRings != 0) continue;
+      DispatchRows::resetForTests();
+      const TemporaryFile file(once);
+      RecordingLog log;
+      XMIParser parser(&log);
+      parser.parse(file.file());
+      std::vector<std::string> expected;
+      std::vector<std::string> found;
+      for (const auto node : document.getObjects()) {
+        expected.push_back(std::string(document.attribute(node, document.xmiId).view()) + ' ' +
+                           ReaderVocabulary::typeOfKind(document.readingOf(node).kind));
+      }
+      for (unsigned int i = 0; i < parser.getObjects().getSlotCount(); ++i) {
+        const UMLElement& object = *parser.getObjects().at(i);
+        found.push_back(std::string(object.id.view()) + ' ' + ReaderVocabulary::typeOfKind(object.getKind()));
+      }
+      if (once.find("S:Block") == std::string::npos) {
+        ASSERT_EQ(found, expected);
+      }
+      for (const TagHandler& row : DispatchRows::get().context) {
+        ASSERT_NE(row.endAction.marker, EndAction::Marker::pop) << row.tag;
+      }
+    }
+  }
 }
 
 // Visited elements, for files of a shape: n elements, or twice as many.

@@ -66,6 +66,15 @@ TEST(PackageContentRule, AnAssociationInAClassMovesToThePackageAroundIt) {
        {"a class in a class", open + "<nestedClassifier xmi:type='uml:Class' xmi:id='d'/>" + close, ""}});
 }
 
+TEST(PackageContentRule, MembersStayVisibleWhenAnAssociationMovesInBesideThem) {
+  const std::string open = "<ownedMember xmi:type='uml:Class' xmi:id='c'>";
+  expectCases<PackageContentRule>(
+      NormalizeRule::packageContent,
+      {{"members alone before", open + "<ownedMember" + association + "</ownedMember>",
+        "<packagedElement xmi:type='uml:Class' xmi:id='c'></packagedElement><packagedElement" +
+            association}});
+}
+
 TEST(PackageContentRule, MembersComeBesideContentsWhenARootMovesIn) {
   const std::string text =
       "<xmi:XMI><uml:Model xmi:id='m'><ownedMember xmi:type='uml:Class' xmi:id='c' name='C'/></uml:Model>"

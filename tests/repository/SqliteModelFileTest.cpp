@@ -5,6 +5,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <csignal>
 #include <thread>
 #include <vector>
@@ -51,7 +52,7 @@ TEST_F(SqliteModelFile, AFullDiskLeavesWhatWasThere) {
     EXPECT_THAT(failureOf([this] {
                   saveStoreModelFile(file("m.sqlite"), *makeFullModel(), StoreModelFormat::sqlite);
                 }),
-                testing::HasSubstr("The model cannot be saved to '" + path("m.sqlite") + "': "));
+                testing::HasSubstr("The file '" + path("m.sqlite") + "' cannot be saved: "));
   }
   EXPECT_EQ(content("m.sqlite"), "old");
   EXPECT_EQ(filesInFolder(), 1U);
@@ -60,7 +61,7 @@ TEST_F(SqliteModelFile, AFullDiskLeavesWhatWasThere) {
 TEST_F(SqliteModelFile, AnAppendThatFailsLeavesNothingWhereNothingWas) {
   {
     const LimitedFiles limit(20000);
-    EXPECT_THAT(failureOf([this] { append(); }), testing::HasSubstr("The model cannot be saved to"));
+    EXPECT_THAT(failureOf([this] { append(); }), testing::HasSubstr("cannot be saved: "));
   }
   EXPECT_LE(filesInFolder(), 1U);  // an empty database at most, which the next append fills
   append();
@@ -73,7 +74,7 @@ TEST_F(SqliteModelFile, AnAppendThatFailsLeavesNothingWhereNothingWas) {
   {
     const LimitedFiles limit(static_cast<rlim_t>(before.size()));
     EXPECT_THAT(failureOf([&] { appendStoreModelFile(file("m.sqlite"), *other); }),
-                testing::HasSubstr("The model cannot be saved to"));
+                testing::HasSubstr("cannot be saved: "));
   }
   EXPECT_EQ(ask("SELECT count(*) FROM models; PRAGMA integrity_check"), "1\nok");
   EXPECT_EQ(filesInFolder(), 1U);
@@ -81,7 +82,7 @@ TEST_F(SqliteModelFile, AnAppendThatFailsLeavesNothingWhereNothingWas) {
 
 TEST_F(SqliteModelFile, OnlyRegularFilesAreTargets) {
   EXPECT_EQ(failureOf([] { appendStoreModelFile(KYRFile("/dev/null"), KYRStoreModel()); }),
-            "[KYRSTD_F0121] The model cannot be saved to '/dev/null': it is not a regular file");
+            "[KYRSTD_F0121] The file '/dev/null' cannot be saved: it is not a regular file");
   EXPECT_THAT(failureOf([this] { appendStoreModelFile(file("no/m.sqlite"), KYRStoreModel()); }),
               testing::HasSubstr("unable to open database file"));
 }
@@ -124,6 +125,57 @@ TEST_F(SqliteModelFile, AReplacedFileIsOpenedAnew) {
   old->ask("COMMIT");
   appending.join();
   EXPECT_EQ(ask("SELECT origin_path FROM models"), "late");
+}
+
+// A process that dies at an append leaves its journal. It belongs to the old file, not to the next one.
+TEST_F(SqliteModelFile, AJournalThatWasLeftBehindDoesNoHarmToTheFileThatTakesThePlace) {
+  append();
+  const pid_t child = fork();
+  ASSERT_GE(child, 0);
+  if (child == 0) {
+    SqliteFile dying(path("m.sqlite"));
+    dying.ask("PRAGMA cache_size = 1; BEGIN; UPDATE classes SET name = hex(randomblob(9000))");
+    _exit(0);
+  }
+  waitpid(child, nullptr, 0);
+  ASSERT_TRUE(std::filesystem::exists(path("m.sqlite-journal")));
+  KYRStoreModel model;
+  model.setName("new");
+  saveStoreModelFile(file("m.sqlite"), model, StoreModelFormat::sqlite);
+  EXPECT_EQ(filesInFolder(), 1U);
+  EXPECT_EQ(ask("SELECT name FROM models; PRAGMA integrity_check"), "new\nok");
+}
+
+TEST_F(SqliteModelFile, AJournalWithoutItsDatabaseIsRemovedAndOtherFilesStay) {
+  write("\xD9\xD5\x05\xF9\x20\xA1\x63\xD7 and more", "m.sqlite-journal");
+  write("notes", "m.sqlite-wal");
+  saveStoreModelFile(file("m.sqlite"), *makeFullModel(), StoreModelFormat::sqlite);
+  EXPECT_FALSE(std::filesystem::exists(path("m.sqlite-journal")));
+  EXPECT_EQ(content("m.sqlite-wal"), "notes");
+}
+
+TEST_F(SqliteModelFile, AFileIsReplacedWhenNobodyWritesToItAnyMore) {
+  append();
+  auto writing = std::make_unique<SqliteFile>(path("m.sqlite"));
+  writing->ask("BEGIN IMMEDIATE; DELETE FROM notes");
+  std::atomic<bool> isSaved = false;
+  std::thread saving([&] {
+    saveStoreModelFile(file("m.sqlite"), KYRStoreModel(), StoreModelFormat::sqlite);
+    isSaved = true;
+  });
+  usleep(100000);
+  EXPECT_FALSE(isSaved);
+  writing->ask("COMMIT");
+  saving.join();
+  EXPECT_EQ(ask("SELECT count(*) FROM objects; PRAGMA integrity_check"), "1\nok");
+}
+
+TEST_F(SqliteModelFile, ADatabaseWithALogOfItsOwnIsReplacedWithIt) {
+  append();
+  SqliteFile(path("m.sqlite")).ask("PRAGMA journal_mode = WAL; UPDATE classes SET name = 'x'");
+  saveStoreModelFile(file("m.sqlite"), KYRStoreModel(), StoreModelFormat::sqlite);
+  EXPECT_EQ(filesInFolder(), 1U);
+  EXPECT_EQ(ask("SELECT count(*) FROM objects; PRAGMA integrity_check"), "1\nok");
 }
 
 // The signal comes while the lock is waited for, and ends the process without a trace in the file.

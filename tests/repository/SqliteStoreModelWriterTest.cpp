@@ -230,7 +230,7 @@ TEST_F(SqliteStoreModel, OtherDatabasesAreLeftAlone) {
   const auto attempt = [this] { append(*makeModel("a", "Order")); };
   write("this is text, and long enough to be no empty file", "m.sqlite");
   EXPECT_EQ(failureOf(attempt),
-            "[KYRSTD_F0120] The model cannot be saved to '" + path("m.sqlite") + "': file is not a database");
+            "[KYRSTD_F0120] The file '" + path("m.sqlite") + "' cannot be saved: file is not a database");
   EXPECT_EQ(content("m.sqlite"), "this is text, and long enough to be no empty file");
   std::filesystem::remove(path("m.sqlite"));
   saveAsSqlite(*makeModel("a", "Order"));

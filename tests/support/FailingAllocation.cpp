@@ -1,22 +1,54 @@
-// The replaced operator new of the test program.
+// The replaced allocation functions of the test program: those of C, on which those of C++ stand, or under
+// a sanitizer those of C++ alone. Nothing here allocates.
 #include "tests/support/FailingAllocation.h"
 
+#include <atomic>
+#include <cerrno>
 #include <cstdlib>
+#include <limits>
 #include <new>
 
+#include "foundation/Export.h"
+
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#define KYR_SANITIZED_ALLOCATOR 1
+#else
+#define KYR_SANITIZED_ALLOCATOR 0
+#endif
+
 namespace {
-long allocationsLeft = -1;  // before one fails; below 0: none does
+
+constexpr long never = std::numeric_limits<long>::max();
+std::atomic<long> allocations{0};  // while an object lives
+std::atomic<long> firstFailure{never};
+std::atomic<long> lastFailure{never};
+
+bool mayAllocate() noexcept {
+  if (firstFailure.load(std::memory_order_relaxed) == never) return true;
+  const long number = allocations++;
+  return number < firstFailure || number > lastFailure;
 }
 
-FailingAllocation::FailingAllocation(long number) { allocationsLeft = number; }
+}  // namespace
 
-FailingAllocation::~FailingAllocation() { allocationsLeft = -1; }
+FailingAllocation::FailingAllocation(long number, Extent extent) noexcept {
+  allocations = 0;
+  lastFailure = extent == Extent::one ? number : never;
+  firstFailure = number;
+}
 
-bool FailingAllocation::hasFailed() const { return allocationsLeft < 0; }
+FailingAllocation::~FailingAllocation() { firstFailure = never; }
+
+bool FailingAllocation::hasFailed() const noexcept { return allocations > firstFailure; }
+
+long FailingAllocation::getCount() noexcept { return allocations; }
+
+bool FailingAllocation::reachesC() noexcept { return KYR_SANITIZED_ALLOCATOR == 0; }
+
+#if KYR_SANITIZED_ALLOCATOR
 
 void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
-  if (allocationsLeft >= 0 && allocationsLeft-- == 0) return nullptr;
-  return std::malloc(size == 0 ? 1 : size);
+  return mayAllocate() ? std::malloc(size == 0 ? 1 : size) : nullptr;
 }
 
 void* operator new(std::size_t size) {
@@ -38,3 +70,30 @@ void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
 void operator delete[](void* memory) noexcept { std::free(memory); }
 
 void operator delete[](void* memory, std::size_t) noexcept { std::free(memory); }
+
+#else
+
+// The C library's own, which serve `free` too.
+extern "C" void* __libc_malloc(std::size_t size);
+extern "C" void* __libc_calloc(std::size_t count, std::size_t size);
+extern "C" void* __libc_realloc(void* memory, std::size_t size);
+
+extern "C" KYR_EXPORT void* malloc(std::size_t size) {
+  if (mayAllocate()) return __libc_malloc(size);
+  errno = ENOMEM;
+  return nullptr;
+}
+
+extern "C" KYR_EXPORT void* calloc(std::size_t count, std::size_t size) {
+  if (mayAllocate()) return __libc_calloc(count, size);
+  errno = ENOMEM;
+  return nullptr;
+}
+
+extern "C" KYR_EXPORT void* realloc(void* memory, std::size_t size) {
+  if (mayAllocate()) return __libc_realloc(memory, size);
+  errno = ENOMEM;
+  return nullptr;
+}
+
+#endif

@@ -5,6 +5,7 @@
 #include "uml/UMLClasses.h"
 #include "uml/UMLMetamodel.h"
 #include "uml/read/ClassPlan.h"
+#include "xmi/ReadObserver.h"
 #include "xmi/ReaderNames.h"
 #include "xmi/XMINames.h"
 #include "xmi/XMIParser.h"
@@ -108,6 +109,7 @@ void XMIParser::completeObject(const ClassPlan& plan, const KYRString& tag,
   element->readingNumber = objects.getCount();
   objects.add(element, false, nullptr);
   object.release();  // owned by `objects` from here on
+  if (observer != nullptr) observer->element(*element, parser->getLine());
   ids.enter(id, element);
   pushElement(element, id);
   tieToParent(plan, tag, id);

@@ -1,0 +1,41 @@
+// ImportReport: what is said of an import: a summary of one, or a line for each of several and a table.
+#pragma once
+
+#include <string>
+
+#include "host/HostLog.h"
+#include "host/ImportCommand.h"
+#include "host/Output.h"
+#include "host/SavedModelCounts.h"
+
+class ImportChild;
+
+class ImportReport {
+ public:
+  ImportReport(bool isQuiet, HostLog::Format format, std::size_t fileCount, Output& output, HostLog& log);
+
+  /// Passes on what the child said, and tells how it ended.
+  void tell(const ImportChild& child);
+  /// The table, after the last child.
+  void close();
+  /// How many files are done, in the last line of a terminal; nothing where there is none.
+  void showProgress(std::size_t done);
+  void clearProgress();
+
+ private:
+  void tellDone(const ImportChild& child);
+  void tellFailed(const ImportChild& child);
+  void addRow(const ImportChild& child);
+
+  bool isQuiet_;
+  HostLog::Format format_;
+  std::size_t fileCount_;
+  Output& output_;
+  HostLog& log_;
+  Output terminal_;
+  bool hasTerminal_;
+  std::string rows_;
+  std::size_t failed_ = 0;
+  double seconds_ = 0;
+  SavedModelCounts sum_;
+};

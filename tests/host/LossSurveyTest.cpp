@@ -1,0 +1,76 @@
+// What an import has lost is counted only when a rule would have helped.
+#include "host/LossSurvey.h"
+
+#include <cstdio>
+
+#include "tests/convert/ImportedModel.h"
+#include "xmi/DispatchRows.h"
+#include "xmi/XMIParser.h"
+
+namespace {
+
+struct Surveyed {
+  // An import that is watched, and what is said of it. `saved` is what the import is said to have saved.
+  explicit Surveyed(const std::string& text, const SavedModelCounts& saved = {}) : file(text) {
+    DispatchRows::resetForTests();
+    {
+      const XmlRewriting rewriting(file.file(), survey);
+      RecordingLog log;
+      XMIParser(&log).parse(file.file());
+    }
+    DispatchRows::resetForTests();
+    loss = survey.compare(file.file(), saved, false);
+  }
+  TemporaryFile file;
+  LossSurvey survey;
+  std::optional<LossSurvey::Loss> loss;
+};
+
+const std::string twoClasses =
+    element("Class", "xmi:id='c' name='C'", "<ownedAttribute xmi:type='uml:Property' xmi:id='a' name='a'/>") +
+    element("Class", "xmi:id='d' name='D'");
+
+TEST(LossSurvey, NothingIsSaidOfAFileThatNoRuleChanges) {
+  // Not even when less was saved than it holds: that has other reasons.
+  EXPECT_FALSE(Surveyed(xmi(twoClasses)).loss.has_value());
+}
+
+TEST(LossSurvey, WhatARuleCuresIsCountedWithItsReason) {
+  SavedModelCounts saved;
+  saved.classes = 1;
+  const Surveyed surveyed(
+      xmi("<nestedPackage xmi:type='uml:Package' xmi:id='p' name='P'>" + twoClasses + "</nestedPackage>"),
+      saved);
+  ASSERT_TRUE(surveyed.loss.has_value());
+  EXPECT_EQ(surveyed.loss->classes, 1U);
+  EXPECT_EQ(surveyed.loss->attributes, 1U);
+  EXPECT_EQ(surveyed.loss->associations, 0U);
+  EXPECT_EQ(surveyed.loss->reasons, "models in the model or misplaced contents of packages");
+}
+
+TEST(LossSurvey, ARuleThatCuresNothingIsNotMentioned) {
+  SavedModelCounts saved;
+  saved.classes = 2;
+  saved.attributes = 1;
+  EXPECT_FALSE(
+      Surveyed(xmi(twoClasses + "<packagedElement xmi:type='uml:Comment'/>"), saved).loss.has_value());
+}
+
+TEST(LossSurvey, AFileThatIsGoneMeanwhileTakesNothingFromTheImport) {
+  LossSurvey survey;
+  TemporaryFile file(xmi("<nestedPackage xmi:id='p'>" + twoClasses + "</nestedPackage>"));
+  {
+    const XmlRewriting rewriting(file.file(), survey);
+    RecordingLog log;
+    XMIParser(&log).parse(file.file());
+  }
+  std::remove(file.path.c_str());
+  EXPECT_FALSE(survey.compare(file.file(), {}, false).has_value());
+}
+
+TEST(LossSurvey, SaysNothingOfAFileThatItHasNotSeen) {
+  LossSurvey survey;
+  EXPECT_FALSE(survey.compare(KYRFile("none"), {}, false).has_value());
+}
+
+}  // namespace

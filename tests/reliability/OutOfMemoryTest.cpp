@@ -1,0 +1,169 @@
+// Imports, loads and drawings that run out of memory at any point: each raises, or was one of the two things
+// that do without (a reference that is logged and dropped, a literal that is passed over) and gives a valid
+// model. The old file stays when nothing new is saved, nothing is left beside it, and the next import is as
+// good as ever. Here a part of the allocations fails; `make soak` goes through all.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <iostream>
+#include <limits>
+#include <new>
+
+#include "fuzz/SavedBytes.h"
+#include "repository/compare/ModelComparison.h"
+#include "repository/storage/StoreModelFile.h"
+#include "tests/reliability/ImportRun.h"
+#include "tests/reliability/Soak.h"
+#include "tests/support/FailingAllocation.h"
+#include "tests/support/TemporaryFile.h"
+
+namespace {
+
+using Extent = FailingAllocation::Extent;
+
+enum class Outcome { done, outOfMemory, refused };
+
+template <class Action>
+Outcome outcomeOf(const Action& action) {
+  try {
+    action();
+    return Outcome::done;
+  } catch (const KYRException&) {
+    return Outcome::refused;
+  } catch (const std::bad_alloc&) {
+    return Outcome::outOfMemory;
+  }
+}
+
+template <class Action>
+long countAllocations(const Action& action) {
+  const FailingAllocation none(std::numeric_limits<long>::max() - 1);
+  action();
+  return FailingAllocation::getCount();
+}
+
+// Between two failing allocations: all of them when soaking, else so many in all, the first ones closer.
+long stepFrom(long number, long count, long cases) {
+  return isSoaking() || number < cases / 4 ? 1 : std::max(1L, count / cases);
+}
+
+std::size_t countOf(const std::string& text, const std::string& part) {
+  std::size_t count = 0;
+  for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) ++count;
+  return count;
+}
+
+// A reference that could not be made is logged; a literal is missing in silence.
+bool isExplained(const ImportRun& import, const std::string& expected) {
+  const std::string literal = "\"class\":\"KYRTypeValue\"";
+  return import.log().countOf("KBI_UML2XMI_F0005") > 0 ||
+         countOf(import.saved(), literal) < countOf(expected, literal);
+}
+
+void failEachAllocation(const std::string& input, long cases) {
+  const std::string expected = ImportRun::resultOf(input);
+  long count = 0;
+  {
+    ImportRun import(input);
+    count = countAllocations([&] { import.run(); });
+  }
+  int faults = 0;
+  int swallowed = 0;
+  for (const Extent extent : {Extent::one, Extent::allFrom}) {
+    for (long number = 0; number < count; number += stepFrom(number, count, cases)) {
+      ImportRun import(input);
+      Outcome outcome = Outcome::done;
+      bool hasFailed = false;
+      {
+        const FailingAllocation failing(number, extent);
+        outcome = outcomeOf([&] { import.run(); });
+        hasFailed = failing.hasFailed();
+      }
+      faults += hasFailed ? 1 : 0;
+      if (outcome == Outcome::done) {
+        EXPECT_EQ(import.filesInFolder(), 1U);
+        EXPECT_NO_THROW(checkComesBack(import.saved())) << number;
+        if (!hasFailed) {
+          EXPECT_EQ(import.saved(), expected) << number;
+        } else if (import.saved() != expected) {
+          ++swallowed;
+          EXPECT_TRUE(isExplained(import, expected)) << number;
+        }
+      } else {
+        EXPECT_TRUE(import.isUntouched()) << number;
+      }
+    }
+  }
+  EXPECT_EQ(ImportRun::resultOf(input), expected);
+  std::cout << "  " << faults << " of " << 2 * count << " allocations failed, " << swallowed
+            << " left out of a model\n";
+}
+
+class OutOfMemory : public testing::TestWithParam<const char*> {};
+
+TEST_P(OutOfMemory, AnImportRaisesOrGivesAValidModel) { failEachAllocation(samplePath(GetParam()), 40); }
+
+INSTANTIATE_TEST_SUITE_P(Samples, OutOfMemory,
+                         testing::Values("plain.xmi", "enterprise-architect.xmi",
+                                         "enterprise-architect-database.xmi", "magicdraw.xmi",
+                                         "magicdraw-database.xmi", "magicdraw-diagrams.xmi",
+                                         "magicdraw-module.xmi", "together.xmi", "visual-paradigm.xmi",
+                                         "rational-software-architect.emx", "eclipse-papyrus.uml",
+                                         "odd/utf-16.xmi", "odd/package-ring.xmi"));
+
+// Threads of their own read ahead and save: what fails there comes out here.
+TEST(OutOfMemoryInThreads, AnImportRaisesOrGivesAValidModel) {
+  const TemporaryFile input(fileOfClasses(4800));
+  ASSERT_GT(readWholeFile(input.path).size(), std::size_t{1} << 20);
+  const std::string expected = ImportRun::resultOf(input.path);
+  long count = 0;
+  {
+    ImportRun import(input.path);
+    count = countAllocations([&] { import.run(); });
+  }
+  const long cases = isSoaking() ? 2000 : 10;
+  for (const Extent extent : {Extent::one, Extent::allFrom}) {
+    for (long number = 0; number < count; number += std::max(1L, count / cases)) {
+      ImportRun import(input.path);
+      Outcome outcome = Outcome::done;
+      {
+        const FailingAllocation failing(number, extent);
+        outcome = outcomeOf([&] { import.run(); });
+      }
+      if (outcome == Outcome::done) {
+        EXPECT_NO_THROW(checkComesBack(import.saved())) << number;
+      } else {
+        EXPECT_TRUE(import.isUntouched()) << number;
+      }
+    }
+  }
+}
+
+TEST(OutOfMemoryWithModels, LoadingDrawingSavingAndComparingRaise) {
+  ImportRun import(samplePath("magicdraw-diagrams.xmi"));
+  import.run();
+  const KYRFile file(import.output().c_str());
+  const KYRFile database((import.output() + ".db").c_str());
+  const KYRFile statements((import.output() + ".sql").c_str());
+  const auto work = [&] {
+    const std::unique_ptr<KYRStoreModel> model = loadStoreModel(file);
+    drawAll(*model);
+    const ModelComparison comparison(*model, *model);
+    saveStoreModelFile(database, *model, StoreModelFormat::sqlite);
+    saveStoreModelFile(statements, *model, StoreModelFormat::sql);
+  };
+  const long count = countAllocations(work);
+  const std::string savedDatabase = readWholeFile(database.getPath().getCharacters());
+  const std::string savedStatements = readWholeFile(statements.getPath().getCharacters());
+  for (const Extent extent : {Extent::one, Extent::allFrom}) {
+    for (long number = 0; number < count; number += stepFrom(number, count, 60)) {
+      const FailingAllocation failing(number, extent);
+      outcomeOf(work);
+    }
+  }
+  EXPECT_EQ(import.filesInFolder(), 3U);
+  EXPECT_EQ(readWholeFile(database.getPath().getCharacters()), savedDatabase);
+  EXPECT_EQ(readWholeFile(statements.getPath().getCharacters()), savedStatements);
+}
+
+}  // namespace
