@@ -36,6 +36,7 @@ run: build ## Import a shipped sample and show what came of it
 	@build/release/bin/kyr inspect $(sample) | sed -n '1,20p'
 	@echo && build/release/bin/kyr import $(drawn) -o out/drawn.json -q
 	build/release/bin/kyr diagram out/drawn.json -o out
+	build/release/bin/kyr report out/drawn.json -o out
 
 test: build ## Run all tests: release, then address, leak and undefined behaviour sanitizers
 	ctest --preset release

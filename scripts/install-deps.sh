@@ -2,7 +2,10 @@
 # Installs the Debian 12 packages that the named groups of work need; without a name, "build" and
 # "test". Only what is missing is installed, so a second run asks no network and takes no time.
 #
-#   scripts/install-deps.sh [build|test|lint|bench|packages|all]...
+#   scripts/install-deps.sh [build|test|browser|lint|bench|packages|all]...
+#
+# "browser" is for the test that opens pages of `kyr report`. It is a large download, so nothing asks for it
+# by itself: without it that test is skipped.
 set -euo pipefail
 
 declare -A packages=(
@@ -10,17 +13,18 @@ declare -A packages=(
   [test]="libgtest-dev libgmock-dev python3 python3-jsonschema sqlite3"
   [lint]="clang clang-format clang-tidy python3"
   [bench]="python3"
+  [browser]="chromium nodejs npm"
   [packages]="dpkg-dev fakeroot file python3"
 )
 
 groups=("$@")
 [ ${#groups[@]} -gt 0 ] || groups=(build test)
-[ "${groups[*]}" != all ] || groups=(build test lint bench packages)
+[ "${groups[*]}" != all ] || groups=(build test browser lint bench packages)
 
 wanted=()
 for group in "${groups[@]}"; do
   if [ -z "${packages[$group]:-}" ]; then
-    echo "install-deps: there is no group '$group'; the groups are build, test, lint, bench, packages and all" >&2
+    echo "install-deps: there is no group '$group'; the groups are build, test, browser, lint, bench, packages and all" >&2
     exit 2
   fi
   read -ra names <<< "${packages[$group]}"
@@ -34,6 +38,10 @@ fi
 
 missing=()
 for name in "${wanted[@]}"; do
+  # A node from elsewhere brings npm along, and the packages of Debian cannot stand beside it.
+  case $name in
+    nodejs | npm) ! command -v "${name%js}" > /dev/null || continue ;;
+  esac
   status=$(dpkg-query --show --showformat='${db:Status-Status}' "$name" 2> /dev/null || true)
   [[ $status == installed* ]] || missing+=("$name")
 done

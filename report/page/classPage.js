@@ -1,5 +1,8 @@
 // The page of a class or an interface.
 
+const longestCell = 320;
+const longestSummary = 160;
+
 class ClassPage {
   constructor(fragments, class_, here) {
     this.fragments = fragments;
@@ -21,10 +24,10 @@ class ClassPage {
         tied && ["class of the association " + shorten(nameOf(tied), longestName)]),
       fragments.description(class_),
       this.attributes(),
+      new Neighbourhood(fragments, class_).content(),
       this.operations(),
       this.keys(),
       this.relations(),
-      new Neighbourhood(fragments, class_).content(),
       bulletList("Diagrams", this.model.side(class_, "diagrams"), (diagram) => fragments.link(diagram)),
       this.uses(),
       fragments.ending(class_),
@@ -47,13 +50,12 @@ class ClassPage {
   attributes() {
     const { fragments } = this;
     return table("Attributes", this.class_.attributes || [], [
-      ["Name", (attribute) => this.featureName(attribute), true],
+      ["Name", (attribute) => make("span", { class: "feature" }, this.featureName(attribute)), true],
       ["Type", (attribute) => fragments.type(attribute.type)],
       ["Data type", (attribute) => fragments.dataType(attribute.type)],
       ["Key", (attribute) => [...(this.keysOf.get(attribute.id) || [])].join(", ")],
-      ["Values", (attribute) => (attribute.isOptional ? "optional" : "required")],
       ["Initial value", (attribute) => attribute.initialValue && shorten(attribute.initialValue, longestName)],
-      ["More", (attribute) => [attribute.isStatic ? "static" : "", attribute.isDerived ? "derived" : ""].filter(Boolean).join(", ")],
+      ["More", (attribute) => [attribute.isOptional ? "" : "required", attribute.isStatic ? "static" : "", attribute.isDerived ? "derived" : ""].filter(Boolean).join(", ")],
       ["Physical name", (attribute) => (attribute.physicalName !== attribute.name ? attribute.physicalName : "")],
       ["Description", (attribute) => this.annotations(attribute)],
     ], this.here);
@@ -64,14 +66,22 @@ class ClassPage {
       this.fragments.name(feature)];
   }
 
-  // Description, notes and tagged values of what has no page of its own.
+  // Description, notes and tagged values of what has no page of its own; long ones wait to be opened.
   annotations(object) {
+    const parts = this.annotationParts(object);
+    if (parts.length === 0) return null;
+    const text = readable(object.description || "");
+    if (text.length + (object.propertyValues || []).length * 40 <= longestCell) return parts;
+    const beginning = text === "" ? "Tagged values" : shorten(text, longestSummary).replace(/\s+/g, " ");
+    return make("details", {}, make("summary", {}, beginning), parts);
+  }
+
+  annotationParts(object) {
     const { fragments } = this;
     const values = (object.propertyValues || []).map((value) => make("div", { class: "faint" },
       shorten(nameOf(this.model.get(value.propertyType) || {}), longestName) + ": ", value.value || ""));
-    const notes = (object.notes || []).map((note) => make("div", { class: "text note", dir: "auto" }, note.noteText || ""));
-    const parts = [fragments.description(object), notes, values].filter(hasContent);
-    return parts.length === 0 ? null : parts;
+    const notes = (object.notes || []).map((note) => make("div", { class: "text note", dir: "auto" }, readable(note.noteText || "")));
+    return [fragments.description(object), notes, values].filter(hasContent);
   }
 
   operations() {
@@ -113,8 +123,8 @@ class ClassPage {
     const lists = [
       ["Supertypes", model.supertypes(class_)],
       ["Subtypes", model.subtypes(class_)],
-      ["Realizes", model.other(class_, "specifications", "specificationClass")],
-      ["Realized by", model.other(class_, "realizations", "realizationClass")],
+      ["Realizes", model.other(class_, "realizes", "realizationClass")],
+      ["Realized by", model.other(class_, "realizedBy", "specificationClass")],
       ["Depends on", model.other(class_, "suppliers", "supplierClass")],
       ["Needed by", model.other(class_, "clients", "clientClass")],
     ];
@@ -133,14 +143,17 @@ class ClassPage {
         const class_ = model.get(other.associatedClass);
         return class_ === undefined ? "(not in the model)" : fragments.link(class_);
       })), true],
-      ["Its role", (end) => joined(end.others.map((other) => other.name && fragments.name(other)))],
-      ["Its multiplicity", (end) => end.others.map((other) => other.multiplicity || "").filter(Boolean).join(", ")],
-      ["Role here", (end) => end.role.name && fragments.name(end.role)],
-      ["Multiplicity here", (end) => end.role.multiplicity],
+      ["Its end", (end) => joined(end.others.map((other) => this.endText(other)))],
+      ["This end", (end) => this.endText(end.role)],
       ["Association", (end) => end.association.name && fragments.name(end.association)],
       ["Kind", (end) => aggregation(end)],
       ["Description", (end) => this.annotations(end.association)],
     ], ends.find((end) => end.role === this.here));
+  }
+
+  endText(role) {
+    const parts = [role.name && this.fragments.name(role), role.multiplicity].filter(hasContent);
+    return parts.length === 0 ? null : [parts[0], parts.length > 1 ? [" ", parts[1]] : null];
   }
 
   uses() {

@@ -38,6 +38,7 @@ function draw(name, attributes, ...children) {
 }
 
 const rowsAtOnce = 200;
+const mostLookedAt = 2000;
 
 // Fills a list with what `makeEntry` makes of the items: some of them, and the next ones when asked for.
 function fillList(list, items, makeEntry) {
@@ -68,7 +69,7 @@ function section(title, count, ...content) {
 // empty are left out when the table is short enough to look.
 function table(title, items, columns, here) {
   if (items.length === 0) return null;
-  const isFilled = (column) => items.length > rowsAtOnce || column[2] === true || items.some((item) => hasContent(column[1](item)));
+  const isFilled = (column) => items.length > mostLookedAt || column[2] === true || items.some((item) => hasContent(column[1](item)));
   const used = columns.filter(isFilled);
   const body = make("tbody", {});
   const list = fillList(body, items, (item) => {

@@ -20,16 +20,16 @@ class Fragments {
 
   // A link and what kind of thing it leads to.
   entry(object) {
-    return [this.link(object), " ", make("span", { class: "chip" }, kindText(object)), this.firstLine(object)];
+    return [this.link(object), " ", make("span", { class: "chip" }, kindText(object)), this.beginning(object)];
   }
 
-  firstLine(object) {
-    const line = (object.description || "").trim().split("\n", 1)[0];
-    return line === "" ? null : make("span", { class: "faint" }, " ", shorten(line, 120));
+  beginning(object) {
+    const text = shorten(readable(object.description || "").trim(), 140).replace(/\s+/g, " ");
+    return text === "" ? null : make("span", { class: "faint" }, " ", text);
   }
 
   description(object) {
-    return object.description ? make("div", { class: "text", dir: "auto" }, object.description) : null;
+    return object.description ? make("div", { class: "text", dir: "auto" }, readable(object.description)) : null;
   }
 
   crumbs(object) {
@@ -69,15 +69,14 @@ class Fragments {
 
   dataType(id) {
     const type = this.model.get(id);
-    if (type === undefined || !type.dataType) return null;
-    return dataTypeText(type);
+    return type === undefined ? null : dataTypeText(type);
   }
 
   notes(object) {
     const notes = object.notes || [];
     return bulletList("Notes", notes, (note) => make("div", { class: "note" },
       note.name ? make("strong", {}, shorten(note.name, longestName)) : null,
-      make("div", { class: "text", dir: "auto" }, note.noteText || note.description || "")));
+      make("div", { class: "text", dir: "auto" }, readable(note.noteText || note.description || ""))));
   }
 
   taggedValues(object) {
@@ -101,10 +100,41 @@ class Fragments {
 }
 
 const mostCrumbs = 12;
+const undefinedType = "undefined"; // says of a type that nothing is known
+
+// Some tools keep texts as HTML documents. Of these the words are shown. It is a look at the characters, not
+// a parse: what no parser for HTML ever sees cannot become more than text.
+const skippedTags = new Set(["head", "style", "script"]);
+const breakingTags = new Set(["br", "p", "div", "li", "tr", "ul", "ol", "h1", "h2", "h3", "/p", "/div", "/tr", "/ul", "/ol"]);
+const characterNames = new Map(Object.entries({ lt: "<", gt: ">", amp: "&", quot: "\"", apos: "'", nbsp: " " }));
+
+function readable(content) {
+  if (!/^\s*<html\b/i.test(content)) return content;
+  const words = [];
+  let skipped = "";
+  for (const piece of content.split("<").slice(1)) {
+    const tag = /^\/?[a-z0-9]*/i.exec(piece)[0].toLowerCase();
+    const end = piece.indexOf(">");
+    if (skipped !== "" && tag !== "/" + skipped) continue;
+    skipped = skippedTags.has(tag) ? tag : "";
+    if (skipped !== "") continue;
+    if (breakingTags.has(tag)) words.push("\n");
+    words.push(end < 0 ? "<" + piece : piece.slice(end + 1));
+  }
+  const text = words.join("").replace(/&(#?[a-z0-9]{1,8});/gi, (whole, name) => characterOf(name.toLowerCase()) || whole);
+  return text.split("\n").map((line) => line.trim()).filter((line) => line !== "").join("\n");
+}
+
+function characterOf(name) {
+  if (!name.startsWith("#")) return characterNames.get(name);
+  const number = name[1] === "x" ? parseInt(name.slice(2), 16) : parseInt(name.slice(1), 10);
+  return number > 0 && number <= 0x10ffff ? String.fromCodePoint(number) : undefined;
+}
 
 function dataTypeText(type) {
-  if (!type.length) return type.dataType || "";
-  return (type.dataType || "") + " (" + type.length + (type.scale ? ", " + type.scale : "") + ")";
+  const dataType = type.dataType === undefinedType ? "" : type.dataType || "";
+  if (!type.length) return dataType;
+  return dataType + " (" + type.length + (type.scale ? ", " + type.scale : "") + ")";
 }
 
 function visibilityText(object) { return visibilities[object.visibility || 0]; }

@@ -30,6 +30,10 @@ class Report {
       this.show();
       this.main.focus({ preventScroll: true });
     });
+    // What waits to be opened cannot be opened on paper.
+    addEventListener("beforeprint", () => {
+      for (const details of this.main.querySelectorAll("details")) details.open = true;
+    });
     this.show();
   }
 

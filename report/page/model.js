@@ -16,10 +16,12 @@ const childLists = [
 ];
 
 // Field of a reference, and the list in which the object that is referred to finds the referring one.
+// An import puts the interface into the realizationClass of a realization, and what implements it into the
+// specificationClass.
 const otherSides = new Map(Object.entries({
   type: "typeUses", returnType: "typeUses", baseConcreteType: "derivedTypes", dataPackage: "members",
-  clientClass: "suppliers", supplierClass: "clients", realizationClass: "specifications",
-  specificationClass: "realizations",
+  clientClass: "suppliers", supplierClass: "clients", realizationClass: "realizedBy",
+  specificationClass: "realizes",
 }));
 
 class Model {

@@ -3,7 +3,7 @@
 // as high as its neighbours beside it need, so every line to them is straight and no two cross.
 
 const around = {
-  boxWidth: 180, boxHeight: 34, ownWidth: 220, rowHeight: 54, gap: 200, level: 64, mostAbove: 5, mostBeside: 8, mostAttributes: 8, lineHeight: 16,
+  boxWidth: 200, boxHeight: 34, ownWidth: 220, rowHeight: 54, gap: 280, level: 64, mostAbove: 5, mostBeside: 8, mostAttributes: 8, lineHeight: 16,
 };
 
 class Neighbourhood {
@@ -24,12 +24,13 @@ class Neighbourhood {
     const { model } = this.fragments;
     const inherited = (class_) => ({ class_ });
     const realized = (class_) => ({ class_, isDashed: true });
-    this.above = [...model.supertypes(class_).map(inherited), ...model.other(class_, "specifications", "specificationClass").map(realized)];
-    this.below = [...model.subtypes(class_).map(inherited), ...model.other(class_, "realizations", "realizationClass").map(realized)];
+    this.above = [...model.supertypes(class_).map(inherited), ...model.other(class_, "realizes", "realizationClass").map(realized)];
+    this.below = [...model.subtypes(class_).map(inherited), ...model.other(class_, "realizedBy", "specificationClass").map(realized)];
     this.left = [];
     this.right = [];
     for (const { role, association, others } of model.associationsOf(class_)) {
       for (const other of others) {
+        if (other.associatedClass === class_.id && association.roles[0] !== role) continue; // seen from its first end
         const neighbour = { class_: model.get(other.associatedClass), role, other, association };
         if (neighbour.class_ !== undefined) (association.roles[0] === role ? this.right : this.left).push(neighbour);
       }
@@ -42,53 +43,56 @@ class Neighbourhood {
   picture() {
     const beside = Math.max(shownCount(this.left, around.mostBeside), shownCount(this.right, around.mostBeside));
     const attributes = (this.class_.attributes || []).slice(0, around.mostAttributes);
-    const left = (this.class_.attributes || []).length - attributes.length;
-    const textHeight = around.boxHeight + (attributes.length + (left > 0 ? 1 : 0)) * around.lineHeight + (attributes.length > 0 ? 8 : 0);
+    const leftOut = (this.class_.attributes || []).length - attributes.length;
+    const textHeight = around.boxHeight + (attributes.length + (leftOut > 0 ? 1 : 0)) * around.lineHeight + (attributes.length > 0 ? 8 : 0);
     this.own = { width: around.ownWidth, height: Math.max(textHeight, beside * around.rowHeight) };
     this.own.x = -this.own.width / 2;
     this.own.y = 0;
-    this.drawOwn(attributes, left);
+    this.drawOwn(attributes, leftOut);
     this.drawRow(this.above, -around.level - around.boxHeight, true);
     this.drawRow(this.below, this.own.height + around.level, false);
     this.drawColumn(this.left, -1);
     this.drawColumn(this.right, 1);
-    const halfWidth = this.halfWidth();
+    const left = -this.reach(this.left);
+    const width = this.reach(this.right) - left;
     const top = this.above.length > 0 ? -around.level - around.boxHeight - 24 : -8;
-    const bottom = this.own.height + (this.below.length > 0 ? around.level + around.boxHeight + 24 : 8);
-    const svg = draw("svg", { viewBox: [-halfWidth, top, 2 * halfWidth, bottom - top].join(" "), role: "group",
+    const height = this.own.height + (this.below.length > 0 ? around.level + around.boxHeight + 24 : 8) - top;
+    const svg = draw("svg", { viewBox: [left, top, width, height].join(" "), role: "group",
       "aria-label": "Neighbourhood of " + plain(shorten(nameOf(this.class_), longestName)) }, this.shapes);
     // As large as it was laid out, and smaller where there is no room.
-    svg.style.maxWidth = 2 * halfWidth + "px";
+    svg.style.maxWidth = width + "px";
     return svg;
   }
 
-  halfWidth() {
-    const beside = this.left.length + this.right.length > 0 ? this.own.width / 2 + around.gap + around.boxWidth : this.own.width / 2;
+  // How far the picture goes to the side of those neighbours.
+  reach(beside) {
+    const column = this.own.width / 2 + (beside.length > 0 ? around.gap + around.boxWidth : 0);
     const inRow = Math.max(shownCount(this.above, around.mostAbove), shownCount(this.below, around.mostAbove));
-    return Math.max(beside, inRow * (around.boxWidth + 16) / 2) + 8;
+    return Math.max(column, inRow * (around.boxWidth + 16) / 2) + 8;
   }
 
-  drawOwn(attributes, left) {
+  drawOwn(attributes, leftOut) {
     const { own } = this;
     const group = draw("g", { class: "own" }, draw("rect", { x: own.x, y: own.y, width: own.width, height: own.height, rx: 4 }),
-      text(0, own.y + 22, fit(nameOf(this.class_), own.width - 16), "middle", "name"));
-    let y = own.y + around.boxHeight + 14;
+      text(0, own.y + 22, fit(nameOf(this.class_), own.width - 16, "name"), "middle", "name"));
+    let y = own.y + around.boxHeight + 17;
     if (attributes.length > 0) group.append(line(own.x, own.y + around.boxHeight, own.x + own.width, own.y + around.boxHeight));
     for (const attribute of attributes) {
       const type = this.fragments.model.get(attribute.type);
       const words = nameOf(attribute) + (type === undefined ? "" : ": " + nameOf(type));
-      group.append(text(own.x + 10, y, fit(words, own.width - 20), "start", ""));
+      group.append(text(own.x + 10, y, fit(words, own.width - 20, "plain"), "start", ""));
       y += around.lineHeight;
     }
-    if (left > 0) group.append(text(own.x + 10, y, left + " more", "start", "label"));
+    if (leftOut > 0) group.append(text(own.x + 10, y, leftOut + " more", "start", "label"));
     this.shapes.push(group);
   }
 
   drawBox(neighbour, x, y) {
     const name = nameOf(neighbour.class_);
     this.shapes.push(draw("a", { href: "#" + this.fragments.addresses.of(neighbour.class_) },
+      draw("title", {}, shorten(name, longestName)),
       draw("rect", { x, y, width: around.boxWidth, height: around.boxHeight, rx: 4 }),
-      text(x + around.boxWidth / 2, y + 22, fit(name, around.boxWidth - 16), "middle", "name")));
+      text(x + around.boxWidth / 2, y + 22, fit(name, around.boxWidth - 12, "name"), "middle", "name")));
   }
 
   // Supertypes or subtypes: each with a line of its own to the class, the triangle at the supertype.
@@ -137,13 +141,15 @@ class Neighbourhood {
     }
     if (neighbour.other.isAggregate) this.drawDiamond(near, y, side, neighbour.association.isComposite);
     if (neighbour.role.isAggregate) this.drawDiamond(far, y, -side, neighbour.association.isComposite);
-    const width = around.gap / 2 - 24;
-    const label = (x, role, anchor) => {
-      if (role.name) this.shapes.push(text(x, y - 5, fit(role.name, width), anchor, "label"));
-      if (role.multiplicity) this.shapes.push(text(x, y + 13, fit(role.multiplicity, width), anchor, "label"));
+    const label = (x, role, opposite, anchor) => {
+      // Where the opposite end says nothing its room is there to be taken.
+      const roomFor = (field) => (opposite[field] ? around.gap / 2 - 24 : around.gap - 40);
+      if (role.name) this.shapes.push(text(x, y - 5, fit(role.name, roomFor("name"), "label"), anchor, "label"));
+      if (role.multiplicity) this.shapes.push(text(x, y + 13, fit(role.multiplicity, roomFor("multiplicity"), "label"), anchor, "label"));
     };
-    label(near + side * 18, neighbour.role, side > 0 ? "start" : "end");
-    label(far - side * 18, neighbour.other, side > 0 ? "end" : "start");
+    const { role, other } = neighbour;
+    label(near + side * 18, role, other, side > 0 ? "start" : "end");
+    label(far - side * 18, other, role, side > 0 ? "end" : "start");
   }
 
   drawDiamond(x, y, side, isFull) {
@@ -164,11 +170,14 @@ function polyline(points, isDashed) {
   return draw("polyline", { points: points.join(" "), class: isDashed ? "dashed" : "" });
 }
 
-// As much of a text as fits the width, by what letters of that size need on average.
-function fit(content, width) {
+// As much of a text as fits the width, by what letters of that kind need on average.
+const letterWidths = { name: 7.6, label: 6.8, plain: 6.7 };
+const wideLetter = 12.5;
+
+function fit(content, width, kind) {
   let used = 0;
   for (let i = 0; i < content.length; ++i) {
-    used += content.charCodeAt(i) < 0x2e80 ? 6.9 : 12.5;
+    used += content.charCodeAt(i) < 0x2e80 ? letterWidths[kind] : wideLetter;
     if (used > width) return shorten(content, Math.max(i - 1, 1));
   }
   return content;

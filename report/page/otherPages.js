@@ -14,7 +14,7 @@ function packagePage(fragments, package_) {
     table("Associations", ofKind("association"), [
       ["Association", (association) => association.name && fragments.name(association)],
       ["Ends", (association) => association.roles && association.roles.map((role, index) => [index > 0 ? " \u2014 " : "", roleText(fragments, role)]), true],
-      ["Description", (association) => fragments.firstLine(association)],
+      ["Description", (association) => fragments.beginning(association)],
     ]),
     fragments.ending(package_),
   ];
@@ -32,7 +32,7 @@ function classTable(fragments, title, classes) {
     ["Kind", (class_) => kindText(class_) + (class_.isAbstract ? ", abstract" : "")],
     ["Attributes", (class_) => (class_.attributes || []).length || ""],
     ["Operations", (class_) => (class_.operations || []).length || ""],
-    ["Description", (class_) => fragments.firstLine(class_)],
+    ["Description", (class_) => fragments.beginning(class_)],
   ]);
 }
 
@@ -100,6 +100,8 @@ function picture(diagram) {
   }
   // What is read out is the label; a title inside would be a second one, shown over every box.
   for (const title of [...parsed.querySelectorAll("title")]) title.remove();
+  const boxes = parsed.querySelectorAll("rect").length - 1; // one is the ground
+  if (boxes < 1) return make("p", { class: "faint" }, "The import found no shapes of classes for this diagram.");
   parsed.setAttribute("role", "group");
   parsed.setAttribute("aria-label", "Diagram " + plain(shorten(nameOf(diagram), longestName)));
   return make("div", { class: "picture paper", tabindex: "0", role: "group", "aria-label": "Picture" }, document.importNode(parsed, true));
@@ -110,9 +112,9 @@ function typesPage(fragments) {
   const columns = [
     ["Name", (type) => fragments.link(type), true],
     ["Data type", (type) => dataTypeText(type)],
-    ["Native data type", (type) => type.nativeDataType],
+    ["Native data type", (type) => (type.nativeDataType !== type.name ? type.nativeDataType : "")],
     ["Values", (type) => (type.typeValues ? shorten(type.typeValues.slice(0, 8).map(nameOf).join(", "), 150) + (type.typeValues.length > 8 ? ", \u2026" : "") : "")],
-    ["Description", (type) => fragments.firstLine(type)],
+    ["Description", (type) => fragments.beginning(type)],
   ];
   return [
     make("h1", {}, "Types"),
@@ -125,7 +127,7 @@ function listPage(fragments, title, kind) {
   return [
     make("h1", {}, title),
     bulletList("All", fragments.model.ofKind(kind), (object) => [fragments.link(object),
-      object.owner !== fragments.model.root ? make("span", { class: "faint" }, " in ", fragments.link(object.owner)) : null, fragments.firstLine(object)]),
+      object.owner !== fragments.model.root ? make("span", { class: "faint" }, " in ", fragments.link(object.owner)) : null, fragments.beginning(object)]),
   ];
 }
 

@@ -1,5 +1,7 @@
 // The tree of packages at the side. What a package holds is listed when it is opened.
 
+const deepestRevealed = 100; // lists in lists, which a browser lays out all at once
+
 class Tree {
   constructor(place, fragments) {
     this.fragments = fragments;
@@ -17,6 +19,8 @@ class Tree {
     this.top = make("ul", {});
     this.topList = fillList(this.top, model.root.designPackages || [], (package_) => this.makeEntry(package_));
     place.append(list, make("hr", {}), this.top, this.topList.button);
+    const packages = model.root.designPackages || [];
+    if (packages.length === 1) this.nodes.get(packages[0].id).open?.();
   }
 
   makeEntry(object) {
@@ -64,6 +68,7 @@ class Tree {
     }
     const way = [];
     for (let at = object; at.owner !== null; at = at.owner) way.push(at);
+    if (way.length > deepestRevealed) return undefined;
     let list = this.topList;
     for (const at of way.reverse()) {
       list.showUntil(at);

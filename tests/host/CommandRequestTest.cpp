@@ -96,6 +96,10 @@ TEST(CommandRequest, InfoAndInspectHaveTheirFlags) {
   EXPECT_EQ(diagram.diagram.file, "shop.json");
   EXPECT_EQ(diagram.diagram.name, "Orders");
   EXPECT_EQ(diagram.diagram.folder, "out");
+  const CommandRequest report = read({"report", "shop.json", "-o", "out.html"});
+  EXPECT_EQ(report.kind, Kind::report);
+  EXPECT_EQ(report.report.file, "shop.json");
+  EXPECT_EQ(report.report.output, "out.html");
 }
 
 TEST(CommandRequest, HelpAndVersionAreAnswersAlsoWithoutTheRest) {

@@ -32,6 +32,12 @@ TEST(FileNames, TheOutputIsNamedAfterTheInput) {
   EXPECT_EQ(FileNames::outputOf("shop.xmi", "", StoreModelFormat::sqlite), "shop.sqlite");
 }
 
+TEST(FileNames, APageIsNamedAfterItsModel) {
+  EXPECT_EQ(FileNames::pageOf("models/shop.json", ""), "shop.html");
+  EXPECT_EQ(FileNames::pageOf("models/shop.json", "a/page.htm"), "a/page.htm");
+  EXPECT_EQ(FileNames::pageOf("shop.json", "/tmp"), "/tmp/shop.html");
+}
+
 TEST(FileNames, TheExtensionOfTheOutputTellsTheFormat) {
   EXPECT_EQ(FileNames::formatOf("shop.sqlite"), StoreModelFormat::sqlite);
   EXPECT_EQ(FileNames::formatOf("a.b/shop.sqlite3"), StoreModelFormat::sqlite);

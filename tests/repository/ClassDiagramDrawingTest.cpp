@@ -121,6 +121,20 @@ TEST_F(Drawing, ABoxStandsAtItsPlaceInItsColors) {
   EXPECT_EQ(countOf(lines, "<g clip-path=\"url(#clip1)\">"), 1U);
 }
 
+TEST_F(Drawing, ABoxIsALinkWhereItIsGivenAnAddress) {
+  box(first, 150, 230);
+  box(second, 350, 230);
+  const std::string svg = drawSvg(diagram, [this](const KYRModelObject& subject) {
+    return &subject == &first ? std::string("#a\"<b") : std::string();
+  });
+  const std::size_t link = svg.find("<a xlink:href=\"#a&quot;&lt;b\">\n<rect x=\"100\"");
+  ASSERT_NE(link, std::string::npos);
+  EXPECT_LT(svg.find("</a>", link), svg.find("<rect x=\"300\""));
+  EXPECT_EQ(svg.find("<a ", link + 1), std::string::npos);
+  EXPECT_NE(svg.find("xmlns:xlink=\"http://www.w3.org/1999/xlink\""), std::string::npos);
+  EXPECT_EQ(drawSvg(diagram).find("xlink"), std::string::npos);
+}
+
 TEST_F(Drawing, FlagsTellWhichCompartmentsShow) {
   KYRDerivedType type;
   type.setName("String");

@@ -40,7 +40,7 @@ TEST_F(SqliteDatabases, ValuesGoInAndOut) {
 
 TEST_F(SqliteDatabases, WhatIsRefusedNamesTheFileAndTheReason) {
   EXPECT_EQ(failureOf([this] { SqliteDatabase(folder_ + "/no/d", shown()); }),
-            "[KYRSTD_F0120] The model cannot be saved to 'shown.sqlite': unable to open database file");
+            "[KYRSTD_F0120] The file 'shown.sqlite' cannot be saved: unable to open database file");
   SqliteDatabase database(path("d"), shown());
   EXPECT_THAT(failureOf([&] { database.run("SELECT * FROM nowhere"); }), HasSubstr("no such table: nowhere"));
   EXPECT_THAT(failureOf([&] { SqliteStatement(database, "nonsense"); }), HasSubstr("syntax error"));
