@@ -1,6 +1,7 @@
 // The page of a class or an interface.
 
 const longestCell = 320;
+const mostLinesInCell = 6;
 const longestSummary = 160;
 
 class ClassPage {
@@ -71,7 +72,8 @@ class ClassPage {
     const parts = this.annotationParts(object);
     if (parts.length === 0) return null;
     const text = readable(object.description || "");
-    if (text.length + (object.propertyValues || []).length * 40 <= longestCell) return parts;
+    const lines = text.split("\n").length + (object.propertyValues || []).length;
+    if (text.length <= longestCell && lines <= mostLinesInCell) return parts;
     const beginning = text === "" ? "Tagged values" : shorten(text, longestSummary).replace(/\s+/g, " ");
     return make("details", {}, make("summary", {}, beginning), parts);
   }
@@ -153,7 +155,7 @@ class ClassPage {
 
   endText(role) {
     const parts = [role.name && this.fragments.name(role), role.multiplicity].filter(hasContent);
-    return parts.length === 0 ? null : [parts[0], parts.length > 1 ? [" ", parts[1]] : null];
+    return parts.length === 0 ? null : make("span", { class: "end" }, parts[0], parts.length > 1 ? [" ", parts[1]] : null);
   }
 
   uses() {

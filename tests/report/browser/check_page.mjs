@@ -277,7 +277,7 @@ async function run(browser, { name, work, options }) {
   page.on("pageerror", (error) => troubles.push("error: " + error.message));
   page.on("dialog", (dialog) => { troubles.push("dialog"); dialog.dismiss(); });
   page.on("request", (request) => { if (!request.url().startsWith("file://" + folder)) troubles.push("request: " + request.url()); });
-  page.setDefaultTimeout(20000);
+  page.setDefaultTimeout(60000);
   try {
     await work(page);
     assert.deepEqual(troubles, []);
