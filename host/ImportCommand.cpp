@@ -75,7 +75,7 @@ int ImportCommand::run() {
   const ModelSaver saver(formatOf(settings_), settings_.isAppending);
   TraceFile trace(settings_.traceFile);
   importFile(options);
-  trace.commit();
+  trace.commit(normalizer_ ? &normalizer_->getReport() : nullptr);
   result_ = {std::chrono::duration<double>(Clock::now() - start).count(), saver.getCounts()};
   if (!settings_.isQuiet) writeSummary(phases, trace);
   return ExitCode::done;

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "host/KYRHostTexts.h"
+#include "host/NormalizeSummary.h"
 #include "host/TextOut.h"
 
 namespace {
@@ -59,11 +60,7 @@ void TraceFile::record(const KYRTraceRecord& told) {
 
 void TraceFile::finish(const KYRTraceTotals& totals) {
   totals_ = totals;
-  json_.beginLine();
-  json_.beginObject();
-  totalsToJson(json_, totals);
-  json_.endObject();
-  addLine();
+  isFinished_ = true;
 }
 
 void TraceFile::addLine() {
@@ -73,8 +70,22 @@ void TraceFile::addLine() {
   buffer_.clear();
 }
 
-void TraceFile::commit() {
+void TraceFile::commit(const NormalizeReport* rules) {
   if (file_ == nullptr) return;
+  if (rules != nullptr) {
+    json_.beginLine();
+    json_.beginObject();
+    NormalizeSummary::toJson(json_.key("normalized"), *rules);
+    json_.endObject();
+    addLine();
+  }
+  if (isFinished_) {  // the sum is the last line
+    json_.beginLine();
+    json_.beginObject();
+    totalsToJson(json_, totals_);
+    json_.endObject();
+    addLine();
+  }
   file_->write(buffer_);
   buffer_.clear();
   file_->commit();

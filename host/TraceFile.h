@@ -10,6 +10,7 @@
 #include "host/JsonOut.h"
 #include "repository/storage/ReplacedFile.h"
 
+struct NormalizeReport;
 class TextOut;
 
 class TraceFile final : public KYRImportTrace {
@@ -21,8 +22,9 @@ class TraceFile final : public KYRImportTrace {
 
   void record(const KYRTraceRecord& told) override;
   void finish(const KYRTraceTotals& totals) override;
-  /// The trace takes the place of its file, when one was asked for.
-  void commit();
+  /// Ends the trace and puts it in the place of its file, when one was asked for. `rules`, unless null, tells
+  /// what the normalising step has done to the file.
+  void commit(const NormalizeReport* rules);
 
   /// The sum, and what was lost for each reason, most frequent first; nothing unless wanted.
   void write(TextOut& out) const;
@@ -37,5 +39,6 @@ class TraceFile final : public KYRImportTrace {
   JsonOut json_;
   std::string buffer_;
   KYRTraceTotals totals_;
+  bool isFinished_ = false;
   std::array<std::uint64_t, KYRTraceReasons::count> counts_{};
 };

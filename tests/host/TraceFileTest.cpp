@@ -39,7 +39,7 @@ TEST(TraceFile, RecordsAreLinesAndTheLastIsTheSum) {
   EXPECT_EQ(KYRImportTrace::getCurrent(), &trace);
   tellTwo(trace);
   EXPECT_EQ(contentOf(file.path), "before");
-  trace.commit();
+  trace.commit(nullptr);
   EXPECT_EQ(contentOf(file.path),
             "{\"outcome\":\"lost\",\"reason\":\"no-name\",\"kind\":\"UMLClass\",\"id\":\"c\",\"line\":7,"
             "\"text\":\"It has no name.\"}\n"
@@ -64,7 +64,7 @@ TEST(TraceFile, TheSummaryTellsSumAndReasons) {
 TEST(TraceFile, WithoutAPathNothingIsListenedToOrWritten) {
   TraceFile trace("");
   EXPECT_EQ(KYRImportTrace::getCurrent(), nullptr);
-  trace.commit();
+  trace.commit(nullptr);
   JsonOut json;
   json.beginObject();
   trace.write(json);

@@ -94,6 +94,13 @@ class Inspect(CommandTest):
         self.assertEqual(report["normalized"], {"packageContents": 1})
         self.assertNotIn("normalized", json.loads(self.kyr("inspect", "--json", "m.xmi").output))
 
+    def test_the_trace_tells_the_rules_before_the_sum(self):
+        self.write("m.xmi", model_text(content=NESTED))
+        self.kyr("import", "--normalize", "m.xmi", "--trace", "t.jsonl")
+        lines = [json.loads(line) for line in (self.folder / "t.jsonl").read_text().splitlines()]
+        self.assertEqual(lines[-2], {"normalized": {"packageContents": 1}})
+        self.assertIn("elements", lines[-1])
+
 
 class Normalize(CommandTest):
     def test_the_written_file_is_what_an_import_with_the_step_reads(self):
