@@ -58,3 +58,9 @@ function(kyr_tests name)
     gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
   endif()
 endfunction()
+
+# kyr_compile_alone(FILE...): sources with a name of their own that a neighbour has too. Where the build
+# compiles several sources as one (CMAKE_UNITY_BUILD), these stay by themselves.
+function(kyr_compile_alone)
+  set_source_files_properties(${ARGN} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+endfunction()

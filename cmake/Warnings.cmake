@@ -6,6 +6,10 @@ target_compile_options(kyr_options INTERFACE
 # GCC 12 finds overlapping copies in `"text" + std::string` where there are none.
 target_compile_options(kyr_options INTERFACE
   $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict>)
+# Sources compiled as one see each other's local names, which is no fault.
+if(CMAKE_UNITY_BUILD)
+  target_compile_options(kyr_options INTERFACE -Wno-shadow -Wno-subobject-linkage -Wno-overloaded-virtual)
+endif()
 if(KYR_WARNINGS_AS_ERRORS)
   target_compile_options(kyr_options INTERFACE -Werror)
 endif()
