@@ -14,7 +14,8 @@ function(kyr_layer name)
   target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
   target_include_directories(${name} PRIVATE ${PROJECT_BINARY_DIR}/generated)
   target_include_directories(${name} SYSTEM PRIVATE
-    ${RAPIDJSON_INCLUDE_DIR} ${CLI11_INCLUDE_DIR} ${EXPAT_INCLUDE_DIRS})
+    ${RAPIDJSON_INCLUDE_DIR} ${CLI11_INCLUDE_DIR} ${EXPAT_INCLUDE_DIRS}
+    ${LIBXML2_INCLUDE_DIRS})
   target_link_libraries(${name} PRIVATE kyr_options)
 endfunction()
 

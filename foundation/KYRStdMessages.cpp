@@ -58,6 +58,8 @@ const KYRStdMessages::Message<4> KYRStdMessages::XML_MARKUP_TOO_LONG(
 const KYRStdMessages::Message<4> KYRStdMessages::XML_TOO_LARGE(
     18, fatal,
     "File '{0}', line {1}, column {2}: the limit of {3} nodes, attributes or texts in one file is exceeded");
+const KYRStdMessages::Message<1> KYRStdMessages::FILE_HAS_CHANGED(
+    19, fatal, "The file '{0}' has changed while it was read");
 const KYRStdMessages::PositionText KYRStdMessages::XML_POSITION;
 
 KYRStdMessages::Base::Base(int number, const char* levelName, const char* text)

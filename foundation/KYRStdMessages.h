@@ -75,6 +75,7 @@ class KYR_EXPORT KYRStdMessages : public KYRTextLiteralsCollection {
   static const Message<1> FILE_IS_FIFO;
   static const Message<1> FILE_IS_SOCKET;
   static const Message<1> FILE_IS_DEVICE;
+  static const Message<1> FILE_HAS_CHANGED;
   // XML. The first three arguments are path, line and column.
   static const Message<4> XML_NOT_WELL_FORMED;
   static const Message<4> XML_NOT_UTF8;

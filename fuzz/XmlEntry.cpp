@@ -3,11 +3,14 @@
 #include <string>
 
 #include "foundation/KYRException.h"
+#include "foundation/xml/XmlDocumentBuilder.h"
 #include "foundation/xml/XmlDocumentReader.h"
 #include "foundation/xml/XmlDocumentWriter.h"
 #include "foundation/xml/XmlEncoding.h"
+#include "foundation/xml/XmlExpatTokenizer.h"
 #include "foundation/xml/XmlInput.h"
 #include "foundation/xml/XmlLimits.h"
+#include "foundation/xml/XmlTokenizer.h"
 #include "fuzz/FuzzEntries.h"
 
 namespace {
@@ -34,6 +37,18 @@ Result read(std::string_view input, std::size_t pieceSize, std::size_t blockSize
   XmlMemoryInput source("memory.xmi", input, pieceSize);
   try {
     return {readXmlInput(source, nullptr, blockSize), {}};
+  } catch (const KYRException& exception) {
+    return {nullptr, exception.getMessage().getCharacters()};
+  }
+}
+
+// What expat makes of the input, without the quicker reader in front of it.
+Result readStrictly(std::string_view input) {
+  XmlMemoryInput source("memory.xmi", input);
+  XmlDocumentBuilder builder(source, nullptr);
+  try {
+    XmlExpatTokenizer(source, builder, XmlTokenizer::defaultBlockSize).run();
+    return {builder.getDocument(), {}};
   } catch (const KYRException& exception) {
     return {nullptr, exception.getMessage().getCharacters()};
   }
@@ -75,6 +90,13 @@ void checkComesBack(const XmlDocument& document) {
 void fuzzXml(std::string_view input) {
   const Result whole = read(input, input.size() + 1, XmlTokenizer::defaultBlockSize);
   const Result inPieces = read(input, 1 + input.size() % 7, 1 + input.size() % 64);
+  const Result strict = readStrictly(input);
+  promise((whole.document == nullptr) == (strict.document == nullptr), "both readers accept the same");
+  promise(whole.message == strict.message, "both readers tell the same errors");
+  if (whole.document) {
+    promise(describe(*whole.document, true) == describe(*strict.document, true),
+            "both readers make the same document");
+  }
   promise((whole.document == nullptr) == (inPieces.document == nullptr),
           "blocks do not decide what is valid");
   promise(whole.message == inPieces.message, "blocks do not change messages");

@@ -9,7 +9,7 @@
 set -euo pipefail
 
 declare -A packages=(
-  [build]="make g++ cmake ninja-build ccache pkg-config libexpat1-dev libsqlite3-dev rapidjson-dev libcli11-dev libjemalloc-dev python3"
+  [build]="make g++ cmake ninja-build ccache pkg-config libexpat1-dev libxml2-dev libsqlite3-dev rapidjson-dev libcli11-dev libjemalloc-dev python3"
   [test]="libgtest-dev libgmock-dev python3 python3-jsonschema sqlite3"
   [lint]="clang clang-format clang-tidy python3"
   [bench]="python3"

@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "foundation/TextHash.h"
+#include "foundation/xml/XmlLimits.h"
 
 namespace {
 

@@ -7,7 +7,8 @@
 
 #include "foundation/xml/XmlDocument.h"
 #include "foundation/xml/XmlDocumentListener.h"
-#include "foundation/xml/XmlTokenizer.h"
+#include "foundation/xml/XmlEventSink.h"
+#include "foundation/xml/XmlInput.h"
 
 class KYR_EXPORT XmlDocumentBuilder : public XmlEventSink {
  public:

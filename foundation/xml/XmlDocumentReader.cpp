@@ -8,6 +8,7 @@
 #include "foundation/KYRPhaseTimes.h"
 #include "foundation/xml/XmlDocumentBuilder.h"
 #include "foundation/xml/XmlDocumentCache.h"
+#include "foundation/xml/XmlEncoding.h"
 #include "foundation/xml/XmlEventPipe.h"
 #include "foundation/xml/XmlFileInput.h"
 #include "foundation/xml/XmlRewriting.h"

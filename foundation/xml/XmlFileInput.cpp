@@ -59,6 +59,12 @@ std::size_t XmlFileInput::read(char* buffer, std::size_t capacity) {
   }
 }
 
+void XmlFileInput::rewind() {
+  if (::lseek(descriptor_.number, 0, SEEK_SET) < 0) {
+    KYRStdMessages::FILE_CANNOT_READ.throwException(getName(), describeError(errno));
+  }
+}
+
 XmlFileIdentity XmlFileInput::getIdentity() const {
   struct stat status = {};
   if (::fstat(descriptor_.number, &status) != 0) {

@@ -25,6 +25,8 @@ class KYR_EXPORT XmlFileInput : public XmlInput {
   ~XmlFileInput() override;
   /// Raises a KYRException when the system cannot read on.
   std::size_t read(char* buffer, std::size_t capacity) override;
+  bool canRewind() const noexcept override { return true; }
+  void rewind() override;
   /// The identity at this moment; two of them tell whether the file has changed in between.
   XmlFileIdentity getIdentity() const;
 

@@ -24,6 +24,8 @@ class EventRecorder : public XmlEventSink {
   void endElement() override;
   void characters(std::string_view text) override;
   void processingInstruction(std::string_view target, std::string_view data) override;
+  /// Forgets the characters since the last event: an error cuts a text anywhere.
+  void dropText() noexcept { text_.clear(); }
   /// The lines, each ending in a newline.
   std::string getText();
 

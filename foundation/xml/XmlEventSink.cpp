@@ -1,0 +1,4 @@
+// The virtual table of the sinks stands here.
+#include "foundation/xml/XmlEventSink.h"
+
+XmlEventSink::~XmlEventSink() = default;
