@@ -1,4 +1,6 @@
 // The driver: the phases of one import in their fixed order.
+#include <memory>
+
 #include "bridge/KYROmgUml2XmiImportDllInterface.h"
 #include "bridge/messages/KBI_UML2XMI.h"
 #include "bridge/state/KYROmgUml2XmiImportBridge.h"
@@ -21,6 +23,8 @@ constexpr int omgUml2XmiOrigin = 346;  // the number under which hosts know this
 constexpr const char* formatName = "OMG UML2 XMI";
 constexpr const char* assumedFormatVersion = "UML 2.1";  // until the file's own version is known
 constexpr const char* fileEncoding = "UTF-8";
+// Fewer UML objects are freed sooner than a thread begins.
+constexpr unsigned int worthAThread = 10000;
 
 // Whatever ends an import, success or exception, runs the release step.
 class ReleaseGuard {
@@ -45,10 +49,18 @@ int KYROmgUml2XmiImportBridge::importModel(KYRStoreModel& model, KYROptionList& 
                                            const KYRString& originId) {
   storeModel = &model;
   readOptions(options);
-  const ReleaseGuard guard(*this);  // before the parser: UML objects die first
+  const ReleaseGuard guard(
+      *this);  // before the parser, so that UML objects die first when something is raised
   stampOrigin(originId);
   KBI_UML2XMI::UML2_S_PARSING_FILE.log(*log, file.getName());
-  XMIParser parser(log);
+  auto parser = std::make_unique<XMIParser>(log);
+  importParsed(*parser);
+  // What comes now, the saving above all, needs no UML object.
+  if (parser->getObjects().getCount() >= worthAThread) parserRelease_.give(std::move(parser));
+  return 1;
+}
+
+void KYROmgUml2XmiImportBridge::importParsed(XMIParser& parser) {
   ImportTrace trace(KYRImportTrace::getCurrent(), parser);
   umlModel = parser.parse(file);
   stepLimit = stepsForAnyFile + stepsForOneElement * parser.getObjects().getCount();
@@ -59,7 +71,6 @@ int KYROmgUml2XmiImportBridge::importModel(KYRStoreModel& model, KYROptionList& 
   }
   finishModel();
   trace.tell(*this);
-  return 1;
 }
 
 void KYROmgUml2XmiImportBridge::readOptions(KYROptionList& options) {

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <array>
+#include <atomic>
 #include <cstddef>
 
 #include "foundation/Export.h"
@@ -26,11 +27,11 @@ class KYR_EXPORT KYRPhaseTimes {
 
   /// Seconds of processor time spent so far.
   double getSeconds(KYRPhase phase) const noexcept { return seconds_[static_cast<std::size_t>(phase)]; }
-  /// Two threads may enter different phases at the same time.
+  /// Threads may enter at the same time.
   void add(KYRPhase phase, double seconds) noexcept { seconds_[static_cast<std::size_t>(phase)] += seconds; }
 
  private:
-  std::array<double, phaseCount> seconds_{};
+  std::array<std::atomic<double>, phaseCount> seconds_{};
 };
 
 /// Enters the processor time of this thread from its making to its end. A timer that ends within another's

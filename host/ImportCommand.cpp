@@ -88,7 +88,8 @@ void ImportCommand::importFile(KYROptionList& options) {
     normalizer_.emplace(std::string(input.getFileName().view()), settings_.normalize.getExtent());
     rewriting.emplace(input, *normalizer_);
   } else if (!settings_.isQuiet) {
-    rewriting.emplace(input, survey_);
+    survey_.emplace(std::string(input.getFileName().view()));
+    rewriting.emplace(input, *survey_);
   }
   KYRFile target{KYRString(target_)};
   if (!library_.getPlugin().run(originId, target, options, log_)) {
@@ -167,9 +168,9 @@ void ImportCommand::resultToJson(JsonOut& json, const std::string& target, const
 
 void ImportCommand::writeSummary(const PhaseReport& phases, const TraceFile& trace) {
   std::optional<LossSurvey::Loss> loss;
-  if (result_.counts.has_value() && !normalizer_) {
+  if (result_.counts.has_value() && survey_) {
     loss =
-        survey_.compare(KYRFile(KYRString(settings_.file)), *result_.counts, !settings_.rootPackage.empty());
+        survey_->compare(KYRFile(KYRString(settings_.file)), *result_.counts, !settings_.rootPackage.empty());
   }
   if (settings_.format == HostLog::Format::json) {
     JsonOut json;

@@ -72,6 +72,6 @@ class ImportCommand {
   HostLog& log_;
   std::string target_;
   std::optional<Normalizer> normalizer_;  // when the step was asked for
-  LossSurvey survey_;                     // of an import without it
+  std::optional<LossSurvey> survey_;      // of an import without it that says something
   Result result_;
 };

@@ -1,14 +1,18 @@
 // The second reading, with a reader of the command's own: the plug-in's rows keep what they have seen.
 #include "host/LossSurvey.h"
 
+#include <system_error>
+
 #include "foundation/KYRException.h"
 #include "foundation/KYRLog.h"
 #include "host/ArrivalCount.h"
 #include "host/NormalizeSummary.h"
-#include "normalize/Normalizer.h"
 #include "xmi/XMIParser.h"
 
 namespace {
+
+// The rules are through with fewer nodes sooner than a thread begins.
+constexpr XmlDocument::Node worthAThread = 10000;
 
 // Its import has said all there is to say of the file.
 class Silence final : public KYRLog {
@@ -33,17 +37,25 @@ std::uint64_t missing(std::uint64_t expected, std::uint64_t found) {
 
 }  // namespace
 
+LossSurvey::~LossSurvey() = default;
+
 std::shared_ptr<const XmlDocument> LossSurvey::rewrite(const std::shared_ptr<const XmlDocument>& document) {
-  document_ = document;
+  const auto normalize = [this, document] { return normalizer_.rewrite(document); };
+  normalized_ = {};  // a second reading of the file waits for the rules of the first
+  const bool isWorthAThread = document->getNodeCount() >= worthAThread;
+  try {
+    normalized_ = std::async(isWorthAThread ? std::launch::async : std::launch::deferred, normalize);
+  } catch (const std::system_error&) {  // the system has no thread to give: then when somebody asks
+    normalized_ = std::async(std::launch::deferred, normalize);
+  }
   return document;
 }
 
 std::optional<LossSurvey::Loss> LossSurvey::compare(const KYRFile& file, const SavedModelCounts& saved,
                                                     bool hasRootPackage) {
-  if (!document_) return std::nullopt;
-  Normalizer normalizer(std::string(file.getFileName().view()));
-  Replacement replacement(normalizer.rewrite(document_));
-  if (!normalizer.getReport().matters()) return std::nullopt;
+  if (!normalized_.valid()) return std::nullopt;
+  Replacement replacement(normalized_.get());
+  if (!normalizer_.getReport().matters()) return std::nullopt;
   try {
     const XmlRewriting rewriting(file, replacement);
     Silence silence;
@@ -56,7 +68,7 @@ std::optional<LossSurvey::Loss> LossSurvey::compare(const KYRFile& file, const S
     loss.attributes = missing(arrival.attributes, saved.attributes);
     loss.associations = missing(arrival.associations, saved.associations);
     if (loss.classes + loss.attributes + loss.associations == 0) return std::nullopt;
-    loss.reasons = NormalizeSummary::describeReasons(normalizer.getReport());
+    loss.reasons = NormalizeSummary::describeReasons(normalizer_.getReport());
     return loss;
   } catch (const KYRException&) {
     // The import has succeeded; a file that has changed since then takes nothing from that.

@@ -1,18 +1,22 @@
 // LossSurvey: what an import without the normalising step has lost for the way in which the file is written.
 //
-// It watches the parse of the import and keeps the document. Afterwards the rules tell whether they would
-// have changed anything that matters; only then the file is read once more, in memory, as the step hands it
-// on, and what would have arrived is compared with what has.
+// It watches the parse of the import and gives the document to the rules, which tell whether they would have
+// changed anything that matters, on a thread of their own while the import goes on. Only if they would, the
+// file is read once more, in memory, as the step hands it on, and what would have arrived is compared with
+// what has.
 #pragma once
 
 #include <cstdint>
+#include <future>
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "foundation/KYRFile.h"
 #include "foundation/xml/XmlRewriting.h"
 #include "host/SavedModelCounts.h"
+#include "normalize/Normalizer.h"
 
 class LossSurvey final : public XmlRewriter {
  public:
@@ -23,6 +27,9 @@ class LossSurvey final : public XmlRewriter {
     std::string reasons;
   };
 
+  /// `fileName` as for the Normalizer.
+  explicit LossSurvey(std::string fileName) : normalizer_(std::move(fileName)) {}
+  ~LossSurvey() override;
   std::shared_ptr<const XmlDocument> rewrite(const std::shared_ptr<const XmlDocument>& document) override;
   bool watchesOnly() const noexcept override { return true; }
 
@@ -30,5 +37,6 @@ class LossSurvey final : public XmlRewriter {
   std::optional<Loss> compare(const KYRFile& file, const SavedModelCounts& saved, bool hasRootPackage);
 
  private:
-  std::shared_ptr<const XmlDocument> document_;
+  Normalizer normalizer_;
+  std::future<std::shared_ptr<const XmlDocument>> normalized_;  // its destructor waits for the rules
 };

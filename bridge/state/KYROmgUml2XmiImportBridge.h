@@ -4,8 +4,8 @@
 // turns UML objects into repository objects in fixed phases; the release step (bridge/ReleaseStep.cpp)
 // ends every import, good or failed.
 //
-// Ownership. UML objects belong to the parser and die before the release step. Repository objects
-// belong to the container that an `add` operation placed them in; one that no container took stays in
+// Ownership. UML objects belong to the parser; nothing looks at them from the release step on. Repository
+// objects belong to the container that an `add` operation placed them in; one that no container took stays in
 // `unplacedObjects` until the release step. All lists borrow, but for the records of
 // `associationClasses`, `owners` and `mdObjects`, which belong to the bridge.
 #pragma once
@@ -19,6 +19,7 @@
 #include "bridge/state/CommentTargets.h"
 #include "bridge/state/TextKeyHashtable.h"
 #include "bridge/state/TypeIndex.h"
+#include "foundation/BackgroundRelease.h"
 #include "foundation/Borrowed.h"
 #include "foundation/KYRDOM.h"
 #include "foundation/KYRFile.h"
@@ -34,6 +35,7 @@ class KYRDataTypeConverter;
 class KYRLog;
 class KYROptionList;
 class Point2DVector;
+class XMIParser;
 class targetDatabaseInfo;
 struct Point2D;
 
@@ -120,6 +122,7 @@ class KYROmgUml2XmiImportBridge {
   int importModel(KYRStoreModel& model, KYROptionList& options, const KYRString& originId);
 
   // Parts of the driver.
+  void importParsed(XMIParser& parser);
   void readOptions(KYROptionList& options);
   void stampOrigin(const KYRString& originId);
   void loadDom();
@@ -334,4 +337,6 @@ class KYROmgUml2XmiImportBridge {
   std::unordered_map<const KYRClass*, std::unordered_map<std::string, std::vector<KYRAssociationRole*>>>
       rolesByFarName_;
   CommentTargets commentTargets_;
+  // Large imports: the parser goes while the model is saved.
+  BackgroundRelease parserRelease_;
 };

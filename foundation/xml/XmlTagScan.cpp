@@ -3,6 +3,7 @@
 #include "foundation/xml/XmlTagScan.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstring>
 
 namespace {
@@ -10,10 +11,11 @@ namespace {
 constexpr std::uint64_t inEachByte = 0x0101010101010101U;
 constexpr std::uint64_t highBits = inEachByte * 0x80U;
 
-// Whether one of eight bytes is "<", below the blank, or no ASCII.
-bool holdsSpecial(std::uint64_t bytes) noexcept {
+// Of eight bytes, the high bit of those that are "<", below the blank, or no ASCII; above the lowest such bit
+// others may be set for no reason.
+std::uint64_t markSpecial(std::uint64_t bytes) noexcept {
   const std::uint64_t less = bytes ^ (inEachByte * '<');
-  return ((((less - inEachByte) & ~less) | ((bytes - inEachByte * ' ') & ~bytes) | bytes) & highBits) != 0;
+  return (((less - inEachByte) & ~less) | ((bytes - inEachByte * ' ') & ~bytes) | bytes) & highBits;
 }
 
 bool isSpecial(unsigned char byte) noexcept { return byte == '<' || byte < ' ' || byte >= 0x80; }
@@ -25,12 +27,9 @@ bool XmlTagScan::scan(std::string_view bytes) {
   taken_ = 0;
   const char* const end = bytes.data() + bytes.size();
   for (const char* at = bytes.data(); at != end;) {
-    if (state_ == State::content) {
-      const char* const next = skipPlain(at, end);
+    if (state_ == State::content && continuations_ == 0) {
+      const char* const next = *at == '\n' ? skipIndentation(at, end) : skipPlain(at, end);
       if (next != at) {
-        if (continuations_ != 0) return false;
-        afterReturn_ = false;
-        column_ += static_cast<std::uint64_t>(next - at);
         if (!countSpan(at, next)) return false;
         at = next;
         continue;
@@ -48,15 +47,31 @@ bool XmlTagScan::takeStart(XmlPosition& position) noexcept {
   return true;
 }
 
-const char* XmlTagScan::skipPlain(const char* from, const char* end) const noexcept {
+// The end of the run of plain characters that begins here.
+const char* XmlTagScan::skipPlain(const char* from, const char* end) noexcept {
+  const char* at = from;
   std::uint64_t bytes;
-  while (static_cast<std::size_t>(end - from) >= sizeof bytes) {
-    std::memcpy(&bytes, from, sizeof bytes);
-    if (holdsSpecial(bytes)) break;
-    from += sizeof bytes;
+  std::uint64_t special = 0;
+  while (special == 0 && static_cast<std::size_t>(end - at) >= sizeof bytes) {
+    std::memcpy(&bytes, at, sizeof bytes);
+    if constexpr (std::endian::native == std::endian::big) bytes = __builtin_bswap64(bytes);
+    special = markSpecial(bytes);
+    at += special == 0 ? sizeof bytes : static_cast<std::size_t>(std::countr_zero(special)) / 8;
   }
-  while (from != end && !isSpecial(static_cast<unsigned char>(*from))) ++from;
-  return from;
+  while (special == 0 && at != end && !isSpecial(static_cast<unsigned char>(*at))) ++at;
+  if (at != from) afterReturn_ = false;
+  column_ += static_cast<std::uint64_t>(at - from);
+  return at;
+}
+
+// The place behind a line feed and the blanks and tabs that follow it.
+const char* XmlTagScan::skipIndentation(const char* from, const char* end) noexcept {
+  if (!afterReturn_) ++line_;
+  afterReturn_ = false;
+  const char* at = from + 1;
+  while (at != end && (*at == ' ' || *at == '\t')) ++at;
+  column_ = static_cast<std::uint64_t>(at - from);
+  return at;
 }
 
 bool XmlTagScan::countSpan(const char* from, const char* end) noexcept {

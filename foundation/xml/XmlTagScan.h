@@ -31,7 +31,8 @@ class KYR_EXPORT XmlTagScan {
  private:
   enum class State : std::uint8_t { content, markup, bang, comment, section, instruction };
 
-  const char* skipPlain(const char* from, const char* end) const noexcept;
+  const char* skipPlain(const char* from, const char* end) noexcept;
+  const char* skipIndentation(const char* from, const char* end) noexcept;
   bool countSpan(const char* from, const char* end) noexcept;
   bool advance(unsigned char byte) noexcept;
   bool advanceWide(unsigned char byte) noexcept;

@@ -22,7 +22,7 @@ struct Surveyed {
     loss = survey.compare(file.file(), saved, false);
   }
   TemporaryFile file;
-  LossSurvey survey;
+  LossSurvey survey{"shop.xmi"};
   std::optional<LossSurvey::Loss> loss;
 };
 
@@ -56,8 +56,21 @@ TEST(LossSurvey, ARuleThatCuresNothingIsNotMentioned) {
       Surveyed(xmi(twoClasses + "<packagedElement xmi:type='uml:Comment'/>"), saved).loss.has_value());
 }
 
+TEST(LossSurvey, ALargeFileIsLookedAtWhileTheImportGoesOn) {
+  std::string classes;
+  for (int i = 0; i < 11000; ++i)
+    classes += element("Class", "xmi:id='c" + std::to_string(i) + "' name='C" + std::to_string(i) + "'");
+  SavedModelCounts saved;
+  saved.classes = 1000;
+  const Surveyed surveyed(
+      xmi("<nestedPackage xmi:type='uml:Package' xmi:id='p' name='P'>" + classes + "</nestedPackage>"),
+      saved);
+  ASSERT_TRUE(surveyed.loss.has_value());
+  EXPECT_EQ(surveyed.loss->classes, 10000U);
+}
+
 TEST(LossSurvey, AFileThatIsGoneMeanwhileTakesNothingFromTheImport) {
-  LossSurvey survey;
+  LossSurvey survey("shop.xmi");
   TemporaryFile file(xmi("<nestedPackage xmi:id='p'>" + twoClasses + "</nestedPackage>"));
   {
     const XmlRewriting rewriting(file.file(), survey);
@@ -69,7 +82,7 @@ TEST(LossSurvey, AFileThatIsGoneMeanwhileTakesNothingFromTheImport) {
 }
 
 TEST(LossSurvey, SaysNothingOfAFileThatItHasNotSeen) {
-  LossSurvey survey;
+  LossSurvey survey("shop.xmi");
   EXPECT_FALSE(survey.compare(KYRFile("none"), {}, false).has_value());
 }
 
