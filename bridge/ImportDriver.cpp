@@ -63,6 +63,7 @@ int KYROmgUml2XmiImportBridge::importModel(KYRStoreModel& model, KYROptionList& 
 void KYROmgUml2XmiImportBridge::importParsed(XMIParser& parser) {
   ImportTrace trace(KYRImportTrace::getCurrent(), parser);
   umlModel = parser.parse(file);
+  parser.dropLinks();
   stepLimit = stepsForAnyFile + stepsForOneElement * parser.getObjects().getCount();
   loadDom();
   if (umlModel != nullptr) {

@@ -7,6 +7,8 @@
 #include <thread>
 #include <utility>
 
+#include "foundation/WorkerThread.h"
+
 /// Whoever owns this waits, at the latest in its destructor, until all that was given is gone.
 class BackgroundRelease {
  public:
@@ -20,7 +22,7 @@ class BackgroundRelease {
   void give(std::unique_ptr<T> object) noexcept {
     wait();
     try {
-      thread_ = std::thread([taken = std::move(object)]() mutable noexcept { taken.reset(); });
+      thread_ = startWorkerThread([taken = std::move(object)]() mutable noexcept { taken.reset(); });
     } catch (...) {  // what the thread would have owned went with it
     }
   }

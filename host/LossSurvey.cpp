@@ -2,9 +2,11 @@
 #include "host/LossSurvey.h"
 
 #include <system_error>
+#include <utility>
 
 #include "foundation/KYRException.h"
 #include "foundation/KYRLog.h"
+#include "foundation/WorkerThread.h"
 #include "host/ArrivalCount.h"
 #include "host/NormalizeSummary.h"
 #include "xmi/XMIParser.h"
@@ -37,16 +39,25 @@ std::uint64_t missing(std::uint64_t expected, std::uint64_t found) {
 
 }  // namespace
 
-LossSurvey::~LossSurvey() = default;
+LossSurvey::~LossSurvey() { wait(); }
+
+void LossSurvey::wait() noexcept {
+  if (worker_.joinable()) worker_.join();
+}
 
 std::shared_ptr<const XmlDocument> LossSurvey::rewrite(const std::shared_ptr<const XmlDocument>& document) {
-  const auto normalize = [this, document] { return normalizer_.rewrite(document); };
-  normalized_ = {};  // a second reading of the file waits for the rules of the first
-  const bool isWorthAThread = document->getNodeCount() >= worthAThread;
+  wait();  // a second reading of the file: the rules of the first use the normalizer
+  std::packaged_task<std::shared_ptr<const XmlDocument>()> rules(
+      [this, document] { return normalizer_.rewrite(document); });
+  normalized_ = rules.get_future();
+  if (document->getNodeCount() < worthAThread) {
+    rules();
+    return document;
+  }
   try {
-    normalized_ = std::async(isWorthAThread ? std::launch::async : std::launch::deferred, normalize);
-  } catch (const std::system_error&) {  // the system has no thread to give: then when somebody asks
-    normalized_ = std::async(std::launch::deferred, normalize);
+    worker_ = startWorkerThread(std::move(rules));
+  } catch (const std::system_error&) {  // the system has no thread to give: then nothing is told of losses
+    normalized_ = {};
   }
   return document;
 }

@@ -11,6 +11,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <thread>
 #include <utility>
 
 #include "foundation/KYRFile.h"
@@ -37,6 +38,9 @@ class LossSurvey final : public XmlRewriter {
   std::optional<Loss> compare(const KYRFile& file, const SavedModelCounts& saved, bool hasRootPackage);
 
  private:
+  void wait() noexcept;
+
   Normalizer normalizer_;
-  std::future<std::shared_ptr<const XmlDocument>> normalized_;  // its destructor waits for the rules
+  std::future<std::shared_ptr<const XmlDocument>> normalized_;
+  std::thread worker_;
 };

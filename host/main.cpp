@@ -7,6 +7,13 @@
 #include "host/CommandLine.h"
 #include "host/EndingSignals.h"
 
+// Read by jemalloc, if that is the allocator. One arena serves all threads, and it is there from the start:
+// the first allocation of a thread would make another, and jemalloc crashes when there is no memory left for
+// that.
+extern "C" {
+[[gnu::visibility("default")]] const char* malloc_conf = "narenas:1";  // NOLINT: the name is given
+}
+
 namespace {
 
 // With a standard file closed, the next file opened would take its place: a message would end up in

@@ -4,7 +4,7 @@
 #include <utility>
 
 namespace {
-constexpr std::size_t firstSlots = 16384;
+constexpr std::size_t firstSlots = 1024;
 }
 
 IdTable::IdTable() : entries_(1), slots_(firstSlots) {}
@@ -30,6 +30,11 @@ IdTable::Number IdTable::intern(const KYRString& id) {
   }
   *free = {hash, static_cast<Number>(entries_.size() - 1)};
   return free->number;
+}
+
+void IdTable::empty() {
+  std::vector<Entry>(1).swap(entries_);
+  std::vector<Slot>(firstSlots).swap(slots_);
 }
 
 void IdTable::enter(Number id, UMLElement* object) noexcept {

@@ -28,6 +28,8 @@ class IdTable {
   /// The first object entered under the id, or null.
   UMLElement* find(Number id) const noexcept { return entries_[id].object; }
   const KYRString& getText(Number id) const noexcept { return entries_[id].text; }
+  /// Forgets all ids and gives their memory back.
+  void empty();
 
  private:
   struct Entry {

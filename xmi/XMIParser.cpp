@@ -66,6 +66,11 @@ UMLModel* XMIParser::parse(const KYRFile& input) {
   return model;
 }
 
+void XMIParser::dropLinks() {
+  std::vector<PendingLink>().swap(pendingLinks);
+  ids.empty();
+}
+
 UMLElement* XMIParser::getElement(int offset) const noexcept {
   const auto position = static_cast<std::ptrdiff_t>(elementStack.size()) - 1 + offset;
   if (position < 0) return nullptr;

@@ -46,6 +46,8 @@ class XMIParser {
   /// Raises KYRException: "[KBI_UML2XMI_F0008] ..." when no model element started anywhere in the
   /// file, and whatever the XML reader raises. After an exception the parser holds no object of the file.
   UMLModel* parse(const KYRFile& file);
+  /// Gives back what only reading and linking need. The parser must not parse again.
+  void dropLinks();
 
   /// All UML objects, in order of reading.
   const UMLObjectTable& getObjects() const noexcept { return objects; }

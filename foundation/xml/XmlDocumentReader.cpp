@@ -6,6 +6,7 @@
 #include <thread>
 
 #include "foundation/KYRPhaseTimes.h"
+#include "foundation/WorkerThread.h"
 #include "foundation/xml/XmlDocumentBuilder.h"
 #include "foundation/xml/XmlDocumentCache.h"
 #include "foundation/xml/XmlEncoding.h"
@@ -26,7 +27,7 @@ bool isWorthAThread(const XmlFileIdentity& identity) noexcept {
 void fill(XmlInput& input, XmlDocumentBuilder& builder, XmlEventPipe& pipe) noexcept {
   try {
     const KYRPhaseTimer timer(KYRPhase::tokenise);
-    XmlTokenizer(input, builder).run();
+    XmlTokenizer(input, builder, XmlTokenizer::defaultBlockSize, XmlThreads::several).run();
     pipe.close(nullptr);
   } catch (...) {
     pipe.close(std::current_exception());
@@ -37,7 +38,7 @@ void fill(XmlInput& input, XmlDocumentBuilder& builder, XmlEventPipe& pipe) noex
 class FillingThread {
  public:
   template <class Work>
-  FillingThread(XmlEventPipe& pipe, Work work) : pipe_(pipe), thread_(work) {}
+  FillingThread(XmlEventPipe& pipe, Work work) : pipe_(pipe), thread_(startWorkerThread(work)) {}
   FillingThread(const FillingThread&) = delete;
   FillingThread& operator=(const FillingThread&) = delete;
   ~FillingThread() {

@@ -91,8 +91,9 @@ void XmlQuickTokenizer::ParserDeleter::operator()(_xmlParserCtxt* parser) const 
   xmlFreeParserCtxt(parser);
 }
 
-XmlQuickTokenizer::XmlQuickTokenizer(XmlInput& input, XmlEventSink& sink, std::size_t blockSize)
-    : limits_(XmlLimits::get()), sink_(sink), decoder_(input), block_(blockSize) {}
+XmlQuickTokenizer::XmlQuickTokenizer(XmlInput& input, XmlEventSink& sink, std::size_t blockSize,
+                                     XmlThreads threads)
+    : limits_(XmlLimits::get()), sink_(sink), blocks_(input, blockSize, threads) {}
 
 XmlQuickTokenizer::~XmlQuickTokenizer() = default;
 
@@ -116,7 +117,7 @@ bool XmlQuickTokenizer::run() {
   openParser();
   if (!isOver()) xmlParseDocument(parser_.get());
   if (failure_) std::rethrow_exception(std::exchange(failure_, nullptr));
-  return !hasGivenUp_ && parser_->wellFormed == 1 && !decoder_.isBroken();
+  return !hasGivenUp_ && parser_->wellFormed == 1;
 }
 
 template <class Action>
@@ -131,20 +132,21 @@ void XmlQuickTokenizer::guard(Action action) noexcept {
 
 // The end of the text is also what libxml2 is told once all is over: it leaves by itself then.
 std::size_t XmlQuickTokenizer::read(char* buffer, std::size_t capacity) {
-  if (blockUsed_ == blockEnd_) {
-    blockUsed_ = 0;
-    blockEnd_ = 0;
-    const std::size_t length = decoder_.read(block_.data(), block_.size());
-    if (decoder_.isBroken() || !scan_.scan({block_.data(), length})) {
-      giveUp();
-      return 0;
-    }
-    blockEnd_ = length;
-  }
-  const std::size_t length = std::min(capacity, blockEnd_ - blockUsed_);
-  std::memcpy(buffer, block_.data() + blockUsed_, length);
-  blockUsed_ += length;
+  if (unread_.empty() && !readBlock()) return 0;
+  const std::size_t length = unread_.copy(buffer, capacity);
+  unread_.remove_prefix(length);
   return length;
+}
+
+bool XmlQuickTokenizer::readBlock() {
+  const XmlTextBlocks::Block& block = blocks_.next();
+  if (!block.isPlain) giveUp();
+  if (isOver() || block.length == 0) return false;
+  unread_ = {block.bytes.data(), block.length};
+  starts_.erase(starts_.begin(), starts_.begin() + static_cast<std::ptrdiff_t>(startsTold_));
+  startsTold_ = 0;
+  starts_.insert(starts_.end(), block.starts.begin(), block.starts.end());
+  return true;
 }
 
 void XmlQuickTokenizer::onStart(const char* tag, const char* const* attributes) {
@@ -152,7 +154,7 @@ void XmlQuickTokenizer::onStart(const char* tag, const char* const* attributes) 
   const std::size_t length = std::strlen(tag);
   XmlPosition position;
   if (progress_.depth >= limits_.maxDepth || length > limits_.maxNameBytes || !takeAttributes(attributes) ||
-      !scan_.takeStart(position)) {
+      !takeStart(position)) {
     return giveUp();
   }
   brackets_ = 0;
@@ -187,6 +189,12 @@ void XmlQuickTokenizer::onInstruction(std::string_view target, std::string_view 
 bool XmlQuickTokenizer::isTagClosed() const noexcept {
   const xmlChar* const at = parser_->input->cur;
   return at[0] == '>' || (at[0] == '/' && at[1] == '>');
+}
+
+bool XmlQuickTokenizer::takeStart(XmlPosition& position) noexcept {
+  if (startsTold_ == starts_.size()) return false;
+  position = starts_[startsTold_++];
+  return true;
 }
 
 bool XmlQuickTokenizer::takeAttributes(const char* const* attributes) {

@@ -13,11 +13,10 @@
 #include <vector>
 
 #include "foundation/Export.h"
-#include "foundation/xml/XmlDecoder.h"
 #include "foundation/xml/XmlEventSink.h"
 #include "foundation/xml/XmlLimits.h"
 #include "foundation/xml/XmlPosition.h"
-#include "foundation/xml/XmlTagScan.h"
+#include "foundation/xml/XmlTextBlocks.h"
 
 struct _xmlError;
 struct _xmlParserCtxt;
@@ -47,7 +46,7 @@ struct XmlProgress {
 class KYR_EXPORT XmlQuickTokenizer {
  public:
   /// Both must outlive the tokenizer. The input is at its start.
-  XmlQuickTokenizer(XmlInput& input, XmlEventSink& sink, std::size_t blockSize);
+  XmlQuickTokenizer(XmlInput& input, XmlEventSink& sink, std::size_t blockSize, XmlThreads threads);
   XmlQuickTokenizer(const XmlQuickTokenizer&) = delete;
   XmlQuickTokenizer& operator=(const XmlQuickTokenizer&) = delete;
   ~XmlQuickTokenizer();
@@ -69,11 +68,13 @@ class KYR_EXPORT XmlQuickTokenizer {
 
   void openParser();
   std::size_t read(char* buffer, std::size_t capacity);
+  bool readBlock();
   void onStart(const char* tag, const char* const* attributes);
   void onEnd();
   void onCharacters(std::string_view text, bool isSection);
   void onInstruction(std::string_view target, std::string_view data);
   bool isTagClosed() const noexcept;
+  bool takeStart(XmlPosition& position) noexcept;
   bool takeAttributes(const char* const* attributes);
   bool endsSection(std::string_view text) noexcept;
   void giveUp() noexcept;
@@ -81,11 +82,10 @@ class KYR_EXPORT XmlQuickTokenizer {
 
   const XmlLimits limits_;
   XmlEventSink& sink_;
-  XmlDecoder decoder_;
-  XmlTagScan scan_;
-  std::vector<char> block_;
-  std::size_t blockUsed_ = 0;
-  std::size_t blockEnd_ = 0;
+  XmlTextBlocks blocks_;
+  std::string_view unread_;          // of the last block
+  std::vector<XmlPosition> starts_;  // of the blocks so far, but for some of those that were told
+  std::size_t startsTold_ = 0;
   std::unique_ptr<_xmlParserCtxt, ParserDeleter> parser_;
   XmlProgress progress_;
   std::size_t brackets_ = 0;  // how many "]" the text under way ends with, two at most

@@ -22,9 +22,7 @@ bool isSpecial(unsigned char byte) noexcept { return byte == '<' || byte < ' ' |
 
 }  // namespace
 
-bool XmlTagScan::scan(std::string_view bytes) {
-  starts_.erase(starts_.begin(), starts_.begin() + static_cast<std::ptrdiff_t>(taken_));
-  taken_ = 0;
+bool XmlTagScan::scan(std::string_view bytes, std::vector<XmlPosition>& starts) {
   const char* const end = bytes.data() + bytes.size();
   for (const char* at = bytes.data(); at != end;) {
     if (state_ == State::content && continuations_ == 0) {
@@ -35,15 +33,10 @@ bool XmlTagScan::scan(std::string_view bytes) {
         continue;
       }
     }
-    if (!advance(static_cast<unsigned char>(*at)) || !turn(*at) || !countSpan(at, at + 1)) return false;
+    if (!advance(static_cast<unsigned char>(*at)) || !turn(*at, starts) || !countSpan(at, at + 1))
+      return false;
     ++at;
   }
-  return true;
-}
-
-bool XmlTagScan::takeStart(XmlPosition& position) noexcept {
-  if (taken_ == starts_.size()) return false;
-  position = starts_[taken_++];
   return true;
 }
 
@@ -119,7 +112,7 @@ bool XmlTagScan::advanceWide(unsigned char byte) noexcept {
   return true;
 }
 
-bool XmlTagScan::turn(char character) {
+bool XmlTagScan::turn(char character, std::vector<XmlPosition>& starts) {
   switch (state_) {
     case State::content:
       if (character == '<') {
@@ -135,7 +128,7 @@ bool XmlTagScan::turn(char character) {
       closing_ = 0;
       bangLength_ = 0;
       state_ = character == '!' ? State::bang : character == '?' ? State::instruction : State::content;
-      if (state_ == State::content && character != '/') starts_.push_back(markup_);
+      if (state_ == State::content && character != '/') starts.push_back(markup_);
       return true;
     case State::bang:
       return turnAtBang(character);

@@ -23,10 +23,9 @@ class KYR_EXPORT XmlTagScan {
   static constexpr std::size_t longSpan = 4096;
   static constexpr std::size_t mostQuotes = 1000;
 
-  /// Looks at the next bytes of the text, cut anywhere. False: they are not for libxml2; the scan is over.
-  bool scan(std::string_view bytes);
-  /// Puts the place of the next start tag, in their order, into `position`; false when it has not been seen.
-  bool takeStart(XmlPosition& position) noexcept;
+  /// Looks at the next bytes of the text, cut anywhere, and adds the places of its start tags, as soon as
+  /// they are known for such, to `starts`. False: the bytes are not for libxml2, and the scan is over.
+  bool scan(std::string_view bytes, std::vector<XmlPosition>& starts);
 
  private:
   enum class State : std::uint8_t { content, markup, bang, comment, section, instruction };
@@ -36,7 +35,7 @@ class KYR_EXPORT XmlTagScan {
   bool countSpan(const char* from, const char* end) noexcept;
   bool advance(unsigned char byte) noexcept;
   bool advanceWide(unsigned char byte) noexcept;
-  bool turn(char character);
+  bool turn(char character, std::vector<XmlPosition>& starts);
   bool turnAtBang(char character) noexcept;
 
   State state_ = State::content;
@@ -53,6 +52,4 @@ class KYR_EXPORT XmlTagScan {
   unsigned char lowest_ = 0x80;    // bounds of the next of them
   unsigned char highest_ = 0xBF;
   XmlPosition markup_;  // of the last "<"
-  std::vector<XmlPosition> starts_;
-  std::size_t taken_ = 0;
 };

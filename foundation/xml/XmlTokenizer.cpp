@@ -77,9 +77,11 @@ void XmlTokenizer::run() {
   ++runCount;
   XmlProgress told;
   if (input_.canRewind()) {
-    XmlQuickTokenizer quick(input_, sink_, blockSize_);
-    if (quick.run()) return;
-    told = quick.getProgress();
+    {
+      XmlQuickTokenizer quick(input_, sink_, blockSize_, threads_);
+      if (quick.run()) return;
+      told = quick.getProgress();
+    }  // and with it the thread that read ahead
     input_.rewind();
   }
   RemainingEvents rest(input_, sink_, told);

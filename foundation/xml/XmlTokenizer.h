@@ -12,6 +12,7 @@
 #include "foundation/Export.h"
 #include "foundation/xml/XmlEventSink.h"
 #include "foundation/xml/XmlInput.h"
+#include "foundation/xml/XmlTextBlocks.h"
 
 class KYR_EXPORT XmlTokenizer {
  public:
@@ -19,8 +20,10 @@ class KYR_EXPORT XmlTokenizer {
   static constexpr std::size_t defaultBlockSize = std::size_t{64} * 1024;
 
   /// Both must outlive the tokenizer. The events do not depend on `blockSize`.
-  XmlTokenizer(XmlInput& input, XmlEventSink& sink, std::size_t blockSize = defaultBlockSize)
-      : input_(input), sink_(sink), blockSize_(blockSize) {}
+  /// Whatever `threads` says, the sink is called on the thread that calls `run`.
+  XmlTokenizer(XmlInput& input, XmlEventSink& sink, std::size_t blockSize = defaultBlockSize,
+               XmlThreads threads = XmlThreads::one)
+      : input_(input), sink_(sink), blockSize_(blockSize), threads_(threads) {}
 
   /// Reads the input to its end. Raises a KYRException with file, line, column and reason for what is
   /// not well-formed (XML 1.0), not valid in its encoding or beyond a limit; an exception of the sink
@@ -33,4 +36,5 @@ class KYR_EXPORT XmlTokenizer {
   XmlInput& input_;
   XmlEventSink& sink_;
   const std::size_t blockSize_;
+  const XmlThreads threads_;
 };

@@ -4,6 +4,8 @@
 #include <system_error>
 #include <utility>
 
+#include "foundation/WorkerThread.h"
+
 BackgroundSink::~BackgroundSink() { stop(); }
 
 void BackgroundSink::write(std::string_view block) {
@@ -34,7 +36,7 @@ void BackgroundSink::finish() {
 
 void BackgroundSink::start() {
   try {
-    thread_ = std::thread([this] { run(); });
+    thread_ = startWorkerThread([this] { run(); });
   } catch (const std::system_error&) {
     isAlone_ = true;
   }

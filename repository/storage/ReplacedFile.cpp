@@ -11,8 +11,8 @@
 #include <cstdlib>
 #include <system_error>
 
+#include "foundation/SignalHold.h"
 #include "repository/KYRRepositoryMessages.h"
-#include "repository/storage/SignalHold.h"
 #include "repository/storage/UnfinishedFiles.h"
 
 namespace {
@@ -85,6 +85,13 @@ void ReplacedFile::write(std::string_view block) {
     if (written < 0 && errno == EINTR) continue;
     if (written < 0) raise(errno);
     block.remove_prefix(static_cast<std::size_t>(written));
+    written_ += written;
+  }
+  // The system shall not wait for the end before it begins to put large files on the disk.
+  constexpr off_t worthIt = off_t{4} * 1024 * 1024;
+  if (wait_ == Wait::untilOnDisk && written_ - handedOn_ >= worthIt) {
+    (void)::sync_file_range(descriptor_, handedOn_, written_ - handedOn_, SYNC_FILE_RANGE_WRITE);
+    handedOn_ = written_;
   }
 }
 

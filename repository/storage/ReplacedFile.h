@@ -1,6 +1,8 @@
 // ReplacedFile: a file that is written beside its target and takes the target's place at the end.
 #pragma once
 
+#include <sys/types.h>
+
 #include <string>
 
 #include "foundation/KYRFile.h"
@@ -40,4 +42,6 @@ class KYR_EXPORT ReplacedFile : public BlockSink {
   Wait wait_;
   bool isModeKept_ = false;
   int descriptor_ = -1;
+  off_t written_ = 0;   // bytes
+  off_t handedOn_ = 0;  // of these, the ones that are on their way to the disk
 };

@@ -8,9 +8,9 @@
 
 #include <string>
 
+#include "foundation/SignalHold.h"
 #include "repository/KYRRepositoryMessages.h"
 #include "repository/storage/ReplacedFile.h"
-#include "repository/storage/SignalHold.h"
 #include "repository/storage/SqliteFormerFile.h"
 #include "repository/storage/SqliteStoreModelWriter.h"
 #include "repository/storage/SqliteWaiting.h"

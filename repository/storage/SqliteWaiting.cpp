@@ -4,7 +4,7 @@
 #include <sqlite3.h>
 #include <unistd.h>
 
-#include "repository/storage/SignalHold.h"
+#include "foundation/SignalHold.h"
 
 namespace {
 

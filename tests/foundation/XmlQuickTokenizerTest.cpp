@@ -26,10 +26,10 @@ struct Quick {
   std::string events;
 };
 
-Quick readQuickly(std::string_view xml, std::size_t block = blockSize) {
+Quick readQuickly(std::string_view xml, std::size_t block = blockSize, XmlThreads threads = XmlThreads::one) {
   XmlMemoryInput input(memoryName, xml);
   EventRecorder recorder;
-  const bool isWhole = XmlQuickTokenizer(input, recorder, block).run();
+  const bool isWhole = XmlQuickTokenizer(input, recorder, block, threads).run();
   return {isWhole, recorder.getText()};
 }
 
@@ -57,10 +57,13 @@ TEST(XmlQuickTokenizer, ReadsTheSamplesToTheirEndsAndTellsWhatExpatTells) {
   const std::vector<std::string> samples = readSamples();
   ASSERT_GE(samples.size(), 8U);
   for (const std::string& text : samples) {
+    const std::string expected = readBy<XmlExpatTokenizer>(text);
     for (const std::size_t block : {std::size_t{100}, blockSize}) {
-      const Quick quick = readQuickly(text, block);
-      EXPECT_TRUE(quick.isWhole) << text.substr(0, 300);
-      EXPECT_EQ(quick.events + "nothing raised", readBy<XmlExpatTokenizer>(text)) << text.substr(0, 300);
+      for (const XmlThreads threads : {XmlThreads::one, XmlThreads::several}) {
+        const Quick quick = readQuickly(text, block, threads);
+        EXPECT_TRUE(quick.isWhole) << text.substr(0, 300);
+        EXPECT_EQ(quick.events + "nothing raised", expected) << text.substr(0, 300);
+      }
     }
   }
 }
@@ -228,7 +231,7 @@ TEST(XmlQuickTokenizer, AnExceptionOfTheSinkPassesThroughAndNothingIsToldBehindI
   };
   XmlMemoryInput input(memoryName, "<a>x<?p?>y<b/></a>");
   Raising sink;
-  XmlQuickTokenizer tokenizer(input, sink, blockSize);
+  XmlQuickTokenizer tokenizer(input, sink, blockSize, XmlThreads::several);
   EXPECT_THROW(tokenizer.run(), std::runtime_error);
   EXPECT_EQ(sink.calls, 3);
 }

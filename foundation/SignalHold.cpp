@@ -1,5 +1,5 @@
 // Signals are held by the mask of the thread: nothing has to be done in a handler.
-#include "repository/storage/SignalHold.h"
+#include "foundation/SignalHold.h"
 
 #include <pthread.h>
 

@@ -3,9 +3,11 @@
 
 #include <csignal>
 
+#include "foundation/Export.h"
+
 /// While one lives, SIGINT, SIGTERM and SIGHUP wait. They take effect when it dies, so what it protects
 /// asks for `isSignalled` wherever it can stop.
-class SignalHold {
+class KYR_EXPORT SignalHold {
  public:
   SignalHold() noexcept;
   SignalHold(const SignalHold&) = delete;
