@@ -14,6 +14,7 @@
 #include "host/KYRHostTexts.h"
 #include "host/PhaseReport.h"
 #include "host/PluginLibrary.h"
+#include "host/ProgressWatch.h"
 #include "host/TextOut.h"
 #include "host/TraceFile.h"
 #include "repository/plugin/KYRImportBridgeDllInterface.h"
@@ -74,10 +75,11 @@ int ImportCommand::run() {
   const PhaseReport phases(settings_.withTiming);
   const ModelSaver saver(formatOf(settings_), settings_.isAppending);
   TraceFile trace(settings_.traceFile);
+  ProgressWatch progress(!settings_.isQuiet && settings_.format == HostLog::Format::text);
   importFile(options);
   trace.commit(normalizer_ ? &normalizer_->getReport() : nullptr);
   result_ = {std::chrono::duration<double>(Clock::now() - start).count(), saver.getCounts()};
-  if (!settings_.isQuiet) writeSummary(phases, trace);
+  if (!settings_.isQuiet) writeSummary(phases, trace, progress);
   return ExitCode::done;
 }
 
@@ -165,9 +167,10 @@ void ImportCommand::resultToJson(JsonOut& json, const std::string& target, const
   if (result.counts.has_value()) countsToJson(json, *result.counts);
 }
 
-void ImportCommand::writeSummary(const PhaseReport& phases, const TraceFile& trace) {
+void ImportCommand::writeSummary(const PhaseReport& phases, const TraceFile& trace, ProgressWatch& progress) {
   std::optional<LossSurvey::Loss> loss;
   if (result_.counts.has_value() && !normalizer_) {
+    progress.tell(KYRHostTexts::PROGRESS_SURVEY);
     loss =
         survey_.compare(KYRFile(KYRString(settings_.file)), *result_.counts, !settings_.rootPackage.empty());
   }

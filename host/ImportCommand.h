@@ -15,6 +15,7 @@ class JsonOut;
 class KYROptionList;
 class PhaseReport;
 class PluginLibrary;
+class ProgressWatch;
 class TraceFile;
 
 class ImportCommand {
@@ -64,7 +65,7 @@ class ImportCommand {
   void fillOptions(KYROptionList& options);
   void importFile(KYROptionList& options);
   void setOption(KYROptionList& options, const char* identifier, const std::string& value);
-  void writeSummary(const PhaseReport& phases, const TraceFile& trace);
+  void writeSummary(const PhaseReport& phases, const TraceFile& trace, ProgressWatch& progress);
 
   Settings settings_;
   PluginLibrary& library_;

@@ -11,6 +11,7 @@
 #include "host/InspectReport.h"
 #include "host/JsonOut.h"
 #include "host/KYRHostTexts.h"
+#include "host/ProgressWatch.h"
 #include "host/TextOut.h"
 #include "uml/UMLElement.h"
 #include "uml/UMLMetamodel.h"
@@ -72,6 +73,7 @@ void InspectCommand::run() {
   InspectReport report;
   XMIParser parser(&log_);
   if (!settings_.listsObjects) parser.setObserver(&report);
+  const ProgressWatch progress(true);
   const KYRFile input{KYRString(settings_.file)};
   std::optional<XmlRewriting> rewriting;
   if (settings_.normalize.isWanted()) {

@@ -28,6 +28,19 @@ const HostText<0> BATCH_DONE("BATCH_DONE", "done");
 const HostText<0> BATCH_FAILED("BATCH_FAILED", "failed");
 const HostText<2> BATCH_SUM("BATCH_SUM", "files: {0}, failed: {1}");
 const HostText<2> BATCH_PROGRESS("BATCH_PROGRESS", "{0} of {1} files done");
+const HostText<2> BATCH_PROGRESS_OF("BATCH_PROGRESS_OF", "; {0}: {1}");
+
+const HostText<3> PROGRESS_READING("PROGRESS_READING", "reading {0} of {1} MB, {2} %");
+const HostText<1> PROGRESS_READING_BRIEFLY("PROGRESS_READING_BRIEFLY", "reading {0} %");
+const HostText<0> PROGRESS_NORMALISE("PROGRESS_NORMALISE", "bringing the file into the usual form");
+const HostText<0> PROGRESS_OBJECTS("PROGRESS_OBJECTS", "making objects");
+const HostText<0> PROGRESS_LINK("PROGRESS_LINK", "resolving references");
+const HostText<0> PROGRESS_EXTENSION("PROGRESS_EXTENSION", "taking over the tool's own data");
+const HostText<0> PROGRESS_CONVERT("PROGRESS_CONVERT", "converting");
+const HostText<0> PROGRESS_FINISH("PROGRESS_FINISH", "finishing the model");
+const HostText<0> PROGRESS_SAVE("PROGRESS_SAVE", "saving");
+const HostText<0> PROGRESS_RELEASE("PROGRESS_RELEASE", "releasing memory");
+const HostText<0> PROGRESS_SURVEY("PROGRESS_SURVEY", "looking for what was lost");
 
 const HostText<1> DIAGRAM_WRITTEN("DIAGRAM_WRITTEN", "Wrote '{0}'");
 const HostText<1> REPORT_WRITTEN("REPORT_WRITTEN", "Wrote '{0}'");

@@ -130,6 +130,20 @@ extern const HostText<0> BATCH_DONE;
 extern const HostText<0> BATCH_FAILED;
 extern const HostText<2> BATCH_SUM;
 extern const HostText<2> BATCH_PROGRESS;
+extern const HostText<2> BATCH_PROGRESS_OF;
+
+// Where an import has come to, in the last line of a terminal.
+extern const HostText<3> PROGRESS_READING;
+extern const HostText<1> PROGRESS_READING_BRIEFLY;
+extern const HostText<0> PROGRESS_NORMALISE;
+extern const HostText<0> PROGRESS_OBJECTS;
+extern const HostText<0> PROGRESS_LINK;
+extern const HostText<0> PROGRESS_EXTENSION;
+extern const HostText<0> PROGRESS_CONVERT;
+extern const HostText<0> PROGRESS_FINISH;
+extern const HostText<0> PROGRESS_SAVE;
+extern const HostText<0> PROGRESS_RELEASE;
+extern const HostText<0> PROGRESS_SURVEY;
 
 /// One line of `kyr diagram` for each picture.
 extern const HostText<1> DIAGRAM_WRITTEN;
