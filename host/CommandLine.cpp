@@ -43,7 +43,7 @@ int perform(const CommandRequest& request, Tools& tools) {
       InfoCommand(request.info, tools.library, tools.output).run();
       return ExitCode::done;
     case Kind::inspect:
-      InspectCommand(request.inspect, tools.output, tools.log).run();
+      InspectCommand(request.inspect, tools.library, tools.output, tools.log).run();
       return ExitCode::done;
     case Kind::diagram:
       DiagramCommand(request.diagram, tools.output).run();

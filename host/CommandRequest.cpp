@@ -155,6 +155,7 @@ void Definition::defineInspect() {
   command.add_option("FILE", settings.file, textOf(INSPECT_HELP_FILE))->required()->type_name("");
   command.add_flag("--json", settings.isJson, textOf(INSPECT_HELP_JSON));
   command.add_flag("--objects", settings.listsObjects, textOf(INSPECT_HELP_OBJECTS));
+  command.add_flag("--quick", settings.isQuick, textOf(INSPECT_HELP_QUICK));
   addNormalize(command, settings.normalize);
   addEncoding(command);
 }

@@ -21,10 +21,6 @@
 
 namespace {
 
-// Names the host as the origin of the model.
-constexpr const char* originId = "kyr";
-
-constexpr const char* fileOption = "BP_FILE";
 constexpr const char* rootPackageOption = "BP_ROOT_PACKAGE";
 // Read by libkyr, not by the plug-in, hence in no list of options that a plug-in gives.
 constexpr const char* modificationTimeOption = "BP_MODIFICATION_TIME";
@@ -138,8 +134,8 @@ bool ImportCommand::traceClashes() const {
 
 void ImportCommand::fillOptions(KYROptionList& options) {
   library_.getPlugin().getOptionList(options);
-  setOption(options, fileOption, settings_.file);
-  if (!settings_.rootPackage.empty()) setOption(options, rootPackageOption, settings_.rootPackage);
+  setOption(options, library_, fileOption, settings_.file);
+  if (!settings_.rootPackage.empty()) setOption(options, library_, rootPackageOption, settings_.rootPackage);
   if (settings_.modificationTime.empty()) return;
   auto time = std::make_unique<KYROption>(modificationTimeOption, modificationTimeOption, OptionType::text,
                                           KYRString(), KYRString(), false);
@@ -147,10 +143,11 @@ void ImportCommand::fillOptions(KYROptionList& options) {
   options.add(time.release());  // takes ownership whatever it answers
 }
 
-void ImportCommand::setOption(KYROptionList& options, const char* identifier, const std::string& value) {
+void ImportCommand::setOption(KYROptionList& options, const PluginLibrary& library, const char* identifier,
+                              const std::string& value) {
   KYROption* const option = options.get(identifier);
   if (option == nullptr) {
-    KYRHostMessages::PLUGIN_NO_OPTION.throwException(KYRString(library_.getPath()), KYRString(identifier));
+    KYRHostMessages::PLUGIN_NO_OPTION.throwException(KYRString(library.getPath()), KYRString(identifier));
   }
   option->setValue(KYRString(value));
 }

@@ -104,8 +104,9 @@ const HostText<0> INSPECT_HELP(
     "Show what the reader makes of a model file. Nothing is saved.\n"
     "\n"
     "The tool that wrote the file and the versions of UML and XMI in it, how many objects\n"
-    "of each UML class were read, which references lead nowhere, and which parts of the\n"
-    "file are not understood.");
+    "of each UML class were read, which references lead nowhere, which parts of the file\n"
+    "are not understood, and how many objects an import would convert, absorb in others and\n"
+    "lose, with the reasons. 'kyr import --trace' tells of each.");
 const HostText<0> INSPECT_HELP_EXAMPLES(
     "INSPECT_HELP_EXAMPLES",
     "Examples:\n"
@@ -117,6 +118,9 @@ const HostText<0> INSPECT_HELP_OBJECTS(
     "INSPECT_HELP_OBJECTS",
     "Instead of the report, print each UML object as one line of JSON, in order of reading. References are "
     "indexes of other lines, counted from 0");
+
+const HostText<0> INSPECT_HELP_QUICK(
+    "INSPECT_HELP_QUICK", "Only read the file, and do not tell what an import would make of the objects");
 
 const HostText<0> DIAGRAM_HELP(
     "DIAGRAM_HELP",

@@ -102,5 +102,9 @@ const HostText<1> INSPECT_SKIPPED_TYPES("INSPECT_SKIPPED_TYPES", "Skipped values
 const HostText<1> INSPECT_UNKNOWN_TAGS("INSPECT_UNKNOWN_TAGS", "Unknown tags: {0}");
 const HostText<3> INSPECT_COUNT_AT("INSPECT_COUNT_AT", "  {0}  {1}  first at {2}");
 const HostText<1> INSPECT_MORE("INSPECT_MORE", "  and {0} more, which '--json' lists");
+const HostText<1> INSPECT_CONVERTED("INSPECT_CONVERTED", "Converted:    {0}");
+const HostText<1> INSPECT_ABSORBED("INSPECT_ABSORBED", "Absorbed:     {0}");
+const HostText<1> INSPECT_LOST("INSPECT_LOST", "Lost:         {0}");
+const HostText<1> INSPECT_NO_IMPORT("INSPECT_NO_IMPORT", "No import:    {0}");
 
 }  // namespace KYRHostTexts

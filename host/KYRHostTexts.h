@@ -43,6 +43,7 @@ extern const HostText<0> INSPECT_HELP_EXAMPLES;
 extern const HostText<0> INSPECT_HELP_FILE;
 extern const HostText<0> INSPECT_HELP_JSON;
 extern const HostText<0> INSPECT_HELP_OBJECTS;
+extern const HostText<0> INSPECT_HELP_QUICK;
 
 extern const HostText<0> DIAGRAM_HELP;
 extern const HostText<0> DIAGRAM_HELP_EXAMPLES;
@@ -209,5 +210,9 @@ extern const HostText<1> INSPECT_SKIPPED_TYPES;
 extern const HostText<1> INSPECT_UNKNOWN_TAGS;
 extern const HostText<3> INSPECT_COUNT_AT;
 extern const HostText<1> INSPECT_MORE;
+extern const HostText<1> INSPECT_CONVERTED;
+extern const HostText<1> INSPECT_ABSORBED;
+extern const HostText<1> INSPECT_LOST;
+extern const HostText<1> INSPECT_NO_IMPORT;
 
 }  // namespace KYRHostTexts
