@@ -13,7 +13,7 @@
 #include <type_traits>
 
 #include "host/ExitCode.h"
-#include "host/GuardedRun.h"
+#include "host/FailureHint.h"
 #include "host/KYRHostMessages.h"
 #include "host/PluginLibrary.h"
 #include "host/ProgressLine.h"
@@ -116,7 +116,9 @@ int ImportChild::import() {
   settings.logFile.clear();
   KYRImportProgress::setCurrent(channels_->progress.get());
   ImportCommand command(settings, library, output, log);
-  const int code = runGuarded(log, ExitCode::failed, [&command] { return command.run(); });
+  const bool isHintWanted = !settings_.isQuiet && !settings_.normalize.isWanted();
+  const int code =
+      FailureHint::runWith(log, settings_.file, isHintWanted, [&command] { return command.run(); });
   const ImportCommand::Result& result = command.getResult();
   static_assert(std::is_trivially_copyable_v<ImportCommand::Result>);
   const ssize_t written = ::write(channels_->result.getDescriptor(), &result, sizeof result);

@@ -7,6 +7,7 @@ namespace {
 
 const char fatal[] = "FATAL";
 const char warning[] = "WARNING";
+const char status[] = "STATUS";
 
 std::vector<KYRTextLiteral*>& entered() {
   static std::vector<KYRTextLiteral*> literals;
@@ -79,6 +80,10 @@ const HostMessage<1> KYRHostMessages::ATTRIBUTE_RINGS(
 const HostMessage<1> KYRHostMessages::NORMALIZED_IS_INPUT(
     43, fatal,
     "The rewritten file would be written over the file that it comes from, '{0}'; '-o' names another one");
+const HostMessage<1> KYRHostMessages::HINT_NORMALIZE(
+    44, status, "The file holds a model, but is not written in the usual form; '{0}' reads it all the same");
+const HostMessage<1> KYRHostMessages::HINT_FIRST_XMI(
+    45, status, "The file is XMI {0}, which is another language; export the model as XMI 2.1 or later");
 const HostMessage<1> KYRHostMessages::TRACE_IS_OTHER_FILE(
     60, fatal,
     "The trace '{0}' would be written over the file that is to be imported, the model or the log file");

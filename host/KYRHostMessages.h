@@ -39,6 +39,9 @@ class KYRHostMessages final : public KYRTextLiteralsCollection {
   static const HostMessage<0> TOOL_NAME_FOUND;
   static const HostMessage<1> ATTRIBUTE_RINGS;
   static const HostMessage<1> NORMALIZED_IS_INPUT;
+  // What may help, behind an error.
+  static const HostMessage<1> HINT_NORMALIZE;
+  static const HostMessage<1> HINT_FIRST_XMI;
   // Imports of several files.
   static const HostMessage<1> OUTPUT_NOT_A_FOLDER;
   static const HostMessage<3> OUTPUTS_CLASH;

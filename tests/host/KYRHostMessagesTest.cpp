@@ -33,7 +33,7 @@ TEST(KYRHostMessages, CodesStayWhatUsersKnow) {
       "KYRHOST_F0013", "KYRHOST_F0014", "KYRHOST_F0015", "KYRHOST_F0016", "KYRHOST_F0017", "KYRHOST_F0030",
       "KYRHOST_F0031", "KYRHOST_F0032", "KYRHOST_F0033", "KYRHOST_F0034", "KYRHOST_F0035", "KYRHOST_F0036",
       "KYRHOST_W0037", "KYRHOST_W0041", "KYRHOST_W0042", "KYRHOST_F0043", "KYRHOST_F0050", "KYRHOST_F0060",
-      "KYRHOST_F0061",
+      "KYRHOST_F0061", "KYRHOST_S0044", "KYRHOST_S0045",
   };
   std::set<std::string> codes;
   for (const auto& [identifier, literal] : allLiterals()) {
