@@ -7,7 +7,7 @@ function packagePage(fragments, package_) {
     fragments.crumbs(package_),
     fragments.title(package_),
     fragments.chips("package", package_.isModelPackage ? "" : "made by the import"),
-    fragments.description(package_),
+    fragments.foldedDescription(package_),
     bulletList("Packages", ofKind("package"), (inner) => fragments.entry(inner)),
     classTable(fragments, "Classes", ofKind("class")),
     bulletList("Diagrams", package_.diagrams || [], (diagram) => fragments.link(diagram)),
@@ -109,6 +109,7 @@ function picture(diagram) {
 
 function typesPage(fragments) {
   const types = fragments.model.ofKind("type").filter((type) => type.class !== "KYRClassType");
+  const isBase = (type) => type.class === "KYRConcreteType"; // a data type as such, which others rest on
   const columns = [
     ["Name", (type) => fragments.link(type), true],
     ["Data type", (type) => dataTypeText(type)],
@@ -119,7 +120,8 @@ function typesPage(fragments) {
   return [
     make("h1", {}, "Types"),
     table("Enumerations", types.filter((type) => type.typeValues), columns),
-    table("Other types", types.filter((type) => !type.typeValues), columns),
+    table("Other types", types.filter((type) => !type.typeValues && !isBase(type)), columns),
+    bulletList("Base types", types.filter((type) => !type.typeValues && isBase(type)), (type) => fragments.link(type), true),
   ];
 }
 
@@ -141,7 +143,7 @@ function homePage(fragments) {
   return [
     fragments.title(root),
     fragments.chips("model", saved.dataStore ? "data store " + saved.dataStore + (saved.dataStoreVersion ? " " + saved.dataStoreVersion : "") : ""),
-    fragments.description(root),
+    fragments.foldedDescription(root),
     bulletList("Packages", root.designPackages || [], (package_) => fragments.entry(package_)),
     bulletList("Diagrams", model.ofKind("diagram"), (diagram) => fragments.link(diagram), true),
     facts("Contents", counted.map((kind) => [kind, counts.get(kind)])),
