@@ -176,6 +176,9 @@ void Definition::defineReport() {
   command.add_option("-o,--output", request_.report.output, textOf(REPORT_HELP_OUTPUT))
       ->type_name("PATH")
       ->check(CLI::Validator(checkName, ""));
+  command.add_option("--messages", request_.report.log, textOf(REPORT_HELP_MESSAGES))
+      ->type_name("PATH")
+      ->check(CLI::Validator(checkName, ""));
 }
 
 void Definition::defineDiff() {
@@ -225,6 +228,7 @@ void Definition::read(int argumentCount, const char* const* arguments) {
     std::ostringstream answer;
     if (isAnswer) app_.exit(error, answer, answer);
     request_.text = isAnswer ? answer.str() : error.what();
+    if (!isAnswer && argumentCount < 2) request_.text = KYRHostTexts::NO_COMMAND.toString().view();
     const bool isCommandMissing = !isAnswer && app_.get_subcommands().empty();
     if (isCommandMissing && argumentCount > 1 && arguments[1][0] != '-') {
       request_.text = KYRHostTexts::UNKNOWN_COMMAND.toString(KYRString(arguments[1])).view();

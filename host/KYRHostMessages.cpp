@@ -54,6 +54,12 @@ const HostMessage<2> KYRHostMessages::NO_SUCH_DIAGRAM(17, fatal,
 
 const HostMessage<1> KYRHostMessages::PAGE_IS_MODEL(
     50, fatal, "The page would be written over the model '{0}'; '-o' names another file");
+const HostMessage<1> KYRHostMessages::PAGE_IS_LOG(
+    51, fatal, "The page would be written over the log file '{0}'; '-o' names another file");
+const HostMessage<1> KYRHostMessages::MODEL_NOT_IMPORTED(
+    52, fatal, "'{0}' is XML and no saved model; 'kyr import' makes one of a model file");
+const HostMessage<1> KYRHostMessages::MODEL_IS_DATABASE(
+    53, fatal, "'{0}' is a database; what is wanted is the JSON file that 'kyr import -o NAME.json' writes");
 const HostMessage<2> KYRHostMessages::NO_FOLDER(
     30, fatal, "The model cannot be written to '{0}': there is no folder '{1}'");
 const HostMessage<0> KYRHostMessages::APPEND_NEEDS_SQLITE(

@@ -27,11 +27,15 @@ class KYRHostMessages final : public KYRTextLiteralsCollection {
   static const HostMessage<2> LOG_FILE_CANNOT_OPEN;
   static const HostMessage<2> LOG_FILE_INCOMPLETE;
   static const HostMessage<1> CANNOT_WRITE_OUTPUT;
+  // The saved model that a command works with.
+  static const HostMessage<1> MODEL_NOT_IMPORTED;
+  static const HostMessage<1> MODEL_IS_DATABASE;
   // Diagrams.
   static const HostMessage<1> NO_DIAGRAMS;
   static const HostMessage<2> NO_SUCH_DIAGRAM;
   // The page of a model.
   static const HostMessage<1> PAGE_IS_MODEL;
+  static const HostMessage<1> PAGE_IS_LOG;
   // The output of an import.
   static const HostMessage<2> NO_FOLDER;
   static const HostMessage<0> APPEND_NEEDS_SQLITE;

@@ -9,6 +9,7 @@ const HostText<1> NOT_A_TIME("NOT_A_TIME", "'{0}' is no time as of ISO 8601, suc
 const HostText<2> NO_SUCH_STORE("NO_SUCH_STORE", "'{0}' is no data store; there are {1}");
 
 const HostText<0> NO_NAME("NO_NAME", "the name is empty");
+const HostText<0> NO_COMMAND("NO_COMMAND", "A command is wanted, such as 'import'");
 const HostText<1> UNKNOWN_COMMAND("UNKNOWN_COMMAND", "There is no command '{0}'");
 
 const HostText<2> SUMMARY("SUMMARY", "Wrote '{0}' in {1} s");

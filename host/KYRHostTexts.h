@@ -55,6 +55,7 @@ extern const HostText<0> REPORT_HELP;
 extern const HostText<0> REPORT_HELP_EXAMPLES;
 extern const HostText<0> REPORT_HELP_FILE;
 extern const HostText<0> REPORT_HELP_OUTPUT;
+extern const HostText<0> REPORT_HELP_MESSAGES;
 
 extern const HostText<0> NORMALIZE_HELP;
 extern const HostText<0> NORMALIZE_HELP_EXAMPLES;
@@ -77,6 +78,7 @@ extern const HostText<1> NOT_A_TIME;
 /// Why a data store is wrong usage, with the names of all.
 extern const HostText<2> NO_SUCH_STORE;
 extern const HostText<0> NO_NAME;
+extern const HostText<0> NO_COMMAND;
 extern const HostText<1> UNKNOWN_COMMAND;
 
 // The closing summary of an import: output file, seconds, and the counts.

@@ -56,6 +56,16 @@ check("the first page tells what the model is", async (page) => {
   }
 });
 
+check("the first page tells what the import said", async (page) => {
+  await open(page, "plain");
+  const part = page.locator("main section").filter({ hasText: "Messages of the import" });
+  assert.match(await part.innerText(), /Level\s+Code\s+Message\s+STATUS\s+KBI_UML2XMI_S0017\s+Parsing file/);
+  await assertAccessible(page, "the messages");
+  await open(page, "wine");
+  await arriveAt(page, "Wine estate");
+  assert.ok(!(await page.locator("main").innerText()).includes("Messages of the import"));
+});
+
 check("a search is worked by keys alone", async (page) => {
   await open(page, "wine");
   await page.keyboard.press("/");
