@@ -103,7 +103,7 @@ class Bench:
                              "--modification-time", MODIFICATION_TIME, "--quiet"])
 
     def inspect_run(self, path):
-        return self.best_of([self.kyr, "inspect", str(path)])
+        return self.best_of([self.kyr, "inspect", "--quick", str(path)])
 
     def phases(self, path):
         """Seconds of processor time by phase, of one import."""

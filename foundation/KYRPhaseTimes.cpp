@@ -3,6 +3,8 @@
 
 #include <time.h>
 
+#include "foundation/KYRImportProgress.h"
+
 namespace {
 
 KYRPhaseTimes* current = nullptr;
@@ -20,14 +22,20 @@ void KYRPhaseTimes::setCurrent(KYRPhaseTimes* times) noexcept { current = times;
 KYRPhaseTimes* KYRPhaseTimes::getCurrent() noexcept { return current; }
 
 const char* KYRPhaseTimes::getName(KYRPhase phase) noexcept {
-  static constexpr std::array<const char*, phaseCount> names = {"tokenise", "objects", "link", "extension",
-                                                                "convert",  "finish",  "save", "release"};
+  static constexpr std::array<const char*, phaseCount> names = {
+      "tokenise", "normalise", "objects", "link", "extension", "convert", "finish", "save", "release"};
   return names[static_cast<std::size_t>(phase)];
 }
 
+// Tokenising runs beside the making of objects and is told by the bytes read.
 KYRPhaseTimer::KYRPhaseTimer(KYRPhase phase) noexcept
-    : times_(current), phase_(phase), start_(times_ == nullptr ? 0 : threadSeconds()) {}
+    : times_(current),
+      progress_(phase == KYRPhase::tokenise ? nullptr : KYRImportProgress::getCurrent()),
+      phase_(phase),
+      phaseBefore_(progress_ == nullptr ? 0 : progress_->enter(phase)),
+      start_(times_ == nullptr ? 0 : threadSeconds()) {}
 
 KYRPhaseTimer::~KYRPhaseTimer() {
+  if (progress_ != nullptr) progress_->leave(phaseBefore_);
   if (times_ != nullptr) times_->add(phase_, threadSeconds() - start_);
 }

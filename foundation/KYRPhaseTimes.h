@@ -12,17 +12,19 @@
 #include "foundation/Export.h"
 
 /// The phases of an import in their order. A file that is read more than once is tokenised once.
-enum class KYRPhase { tokenise, objects, link, extension, convert, finish, save, release };
+enum class KYRPhase { tokenise, normalise, objects, link, extension, convert, finish, save, release };
+
+class KYRImportProgress;
 
 class KYR_EXPORT KYRPhaseTimes {
  public:
-  static constexpr std::size_t phaseCount = 8;
+  static constexpr std::size_t phaseCount = 9;
 
   /// The times that phases of this process enter into, or null. Borrowed; to be set before an import
   /// and taken back after it.
   static void setCurrent(KYRPhaseTimes* times) noexcept;
   static KYRPhaseTimes* getCurrent() noexcept;
-  /// "tokenise", "objects", ...
+  /// "tokenise", "normalise", ...
   static const char* getName(KYRPhase phase) noexcept;
 
   /// Seconds of processor time spent so far.
@@ -34,8 +36,8 @@ class KYR_EXPORT KYRPhaseTimes {
   std::array<std::atomic<double>, phaseCount> seconds_{};
 };
 
-/// Enters the processor time of this thread from its making to its end. A timer that ends within another's
-/// life is counted in both.
+/// Enters the processor time of this thread from its making to its end, and tells the progress of the import
+/// of the phase. A timer that ends within another's life is counted in both.
 class KYR_EXPORT KYRPhaseTimer {
  public:
   explicit KYRPhaseTimer(KYRPhase phase) noexcept;
@@ -45,6 +47,8 @@ class KYR_EXPORT KYRPhaseTimer {
 
  private:
   KYRPhaseTimes* const times_;
+  KYRImportProgress* const progress_;
   const KYRPhase phase_;
+  const int phaseBefore_;
   const double start_;
 };

@@ -9,6 +9,7 @@
 #include "foundation/xml/XmlLimits.h"
 #include "host/CommandRequest.h"
 #include "host/ExitCode.h"
+#include "host/FailureHint.h"
 #include "host/GuardedRun.h"
 #include "host/HostLog.h"
 #include "host/ImportBatch.h"
@@ -38,13 +39,18 @@ int perform(const CommandRequest& request, Tools& tools) {
   switch (request.kind) {
     case Kind::import:
       if (request.import.files.size() > 1) return ImportBatch(request.import, tools.output, tools.log).run();
-      return ImportCommand(request.import, tools.library, tools.output, tools.log).run();
+      return FailureHint::runWith(
+          tools.log, request.import.file, !request.import.isQuiet && !request.import.normalize.isWanted(),
+          [&] { return ImportCommand(request.import, tools.library, tools.output, tools.log).run(); });
     case Kind::info:
       InfoCommand(request.info, tools.library, tools.output).run();
       return ExitCode::done;
     case Kind::inspect:
-      InspectCommand(request.inspect, tools.output, tools.log).run();
-      return ExitCode::done;
+      return FailureHint::runWith(
+          tools.log, request.inspect.file, !request.inspect.normalize.isWanted(), [&] {
+            InspectCommand(request.inspect, tools.library, tools.output, tools.log).run();
+            return ExitCode::done;
+          });
     case Kind::diagram:
       DiagramCommand(request.diagram, tools.output).run();
       return ExitCode::done;

@@ -155,6 +155,7 @@ void Definition::defineInspect() {
   command.add_option("FILE", settings.file, textOf(INSPECT_HELP_FILE))->required()->type_name("");
   command.add_flag("--json", settings.isJson, textOf(INSPECT_HELP_JSON));
   command.add_flag("--objects", settings.listsObjects, textOf(INSPECT_HELP_OBJECTS));
+  command.add_flag("--quick", settings.isQuick, textOf(INSPECT_HELP_QUICK));
   addNormalize(command, settings.normalize);
   addEncoding(command);
 }
@@ -173,6 +174,9 @@ void Definition::defineReport() {
   CLI::App& command = addCommand("report", REPORT_HELP, REPORT_HELP_EXAMPLES);
   command.add_option("FILE", request_.report.file, textOf(REPORT_HELP_FILE))->required()->type_name("");
   command.add_option("-o,--output", request_.report.output, textOf(REPORT_HELP_OUTPUT))
+      ->type_name("PATH")
+      ->check(CLI::Validator(checkName, ""));
+  command.add_option("--messages", request_.report.log, textOf(REPORT_HELP_MESSAGES))
       ->type_name("PATH")
       ->check(CLI::Validator(checkName, ""));
 }
@@ -224,6 +228,7 @@ void Definition::read(int argumentCount, const char* const* arguments) {
     std::ostringstream answer;
     if (isAnswer) app_.exit(error, answer, answer);
     request_.text = isAnswer ? answer.str() : error.what();
+    if (!isAnswer && argumentCount < 2) request_.text = KYRHostTexts::NO_COMMAND.toString().view();
     const bool isCommandMissing = !isAnswer && app_.get_subcommands().empty();
     if (isCommandMissing && argumentCount > 1 && arguments[1][0] != '-') {
       request_.text = KYRHostTexts::UNKNOWN_COMMAND.toString(KYRString(arguments[1])).view();

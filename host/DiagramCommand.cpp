@@ -4,11 +4,11 @@
 #include "host/KYRHostMessages.h"
 #include "host/KYRHostTexts.h"
 #include "host/PictureNames.h"
+#include "host/SavedModel.h"
 #include "host/TextOut.h"
 #include "repository/drawing/ClassDiagramDrawing.h"
 #include "repository/model/KYRObjectCollector.h"
 #include "repository/storage/ReplacedFile.h"
-#include "repository/storage/StoreModelFile.h"
 
 namespace {
 
@@ -21,7 +21,7 @@ void writeFile(const std::string& path, std::string_view content) {
 }  // namespace
 
 void DiagramCommand::run() {
-  const std::unique_ptr<KYRStoreModel> model = loadStoreModel(KYRFile(KYRString(settings_.file)));
+  const std::unique_ptr<KYRStoreModel> model = SavedModel::load(settings_.file);
   const std::vector<const KYRClassDiagram*> diagrams = findDiagrams(*model);
   PictureNames names(settings_.folder);
   TextOut out(output_);

@@ -4,6 +4,7 @@
 #include "host/ExitCode.h"
 #include "host/JsonOut.h"
 #include "host/KYRHostTexts.h"
+#include "host/SavedModel.h"
 #include "host/TextOut.h"
 #include "repository/compare/ModelComparison.h"
 #include "repository/storage/StoreModelFile.h"
@@ -128,8 +129,8 @@ void singlesToText(TextOut& out, const std::vector<ModelComparison::Single>& sin
 }  // namespace
 
 int DiffCommand::run() {
-  const auto before = loadStoreModel(KYRFile(KYRString(settings_.before)));
-  const auto after = loadStoreModel(KYRFile(KYRString(settings_.after)));
+  const auto before = SavedModel::load(settings_.before);
+  const auto after = SavedModel::load(settings_.after);
   const ModelComparison comparison(*before, *after);
   if (settings_.isJson) {
     writeJson(comparison);

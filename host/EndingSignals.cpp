@@ -4,12 +4,14 @@
 #include <unistd.h>
 
 #include "host/ExitCode.h"
+#include "host/ProgressLine.h"
 #include "repository/storage/UnfinishedFiles.h"
 
 namespace {
 
 void removeAndEnd(int signal) {
   UnfinishedFiles::removeAll();
+  ProgressLine::wipeAtSignal();
   EndingSignals::endBy(signal);
 }
 

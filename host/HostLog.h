@@ -20,6 +20,7 @@ class HostLog final : public KYRLog {
   /// Lines of a level number above `lightestShown` do not reach the terminal.
   HostLog(Format format, int lightestShown);
   ~HostLog() override;
+  void setLightestShown(int level) noexcept { lightestShown_ = level; }
 
   /// Writes every further line to that file too, which starts empty. Raises KYRException when it
   /// cannot be opened.

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <ctime>
 #include <filesystem>
 #include <map>
 #include <thread>
@@ -104,15 +105,32 @@ void ImportBatch::startSome() {
     child.start(before_);
     running_.emplace(child.getProcess(), &child);
   }
-  report_.showProgress(finished_);
+  showProgress();
+}
+
+void ImportBatch::showProgress() {
+  if (!report_.showsProgress()) return;
+  std::vector<const ImportChild*> running;
+  for (std::size_t i = told_; i < started_; ++i) {
+    if (!children_[i]->isFinished()) running.push_back(children_[i].get());
+  }
+  report_.showProgress(finished_, running);
+}
+
+// A terminal is looked after in between; without one nothing happens until a process ends.
+int ImportBatch::awaitSignal() const {
+  if (!report_.showsProgress()) return sigwaitinfo(&awaited_, nullptr);
+  const auto wait = std::chrono::nanoseconds(ProgressLine::interval);
+  const timespec interval = {0, static_cast<long>(wait.count())};
+  return sigtimedwait(&awaited_, nullptr, &interval);
 }
 
 void ImportBatch::await() {
   if (running_.empty()) return;
-  const int signal = sigwaitinfo(&awaited_, nullptr);
+  const int signal = awaitSignal();
   if (signal > 0 && signal != SIGCHLD) {
     stopChildren();
-    report_.clearProgress();
+    ProgressLine::wipeAtSignal();
     EndingSignals::endBy(signal);
   }
   // One SIGCHLD can stand for several children.

@@ -28,6 +28,8 @@ class ImportBatch {
   bool outputsClash();
   void holdSignals();
   void startSome();
+  void showProgress();
+  int awaitSignal() const;
   void await();
   void stopChildren() noexcept;
   void tellFinished();

@@ -9,12 +9,14 @@
 #include <cerrno>
 #include <csignal>
 #include <cstring>
+#include <new>
 #include <type_traits>
 
 #include "host/ExitCode.h"
-#include "host/GuardedRun.h"
+#include "host/FailureHint.h"
 #include "host/KYRHostMessages.h"
 #include "host/PluginLibrary.h"
+#include "host/ProgressLine.h"
 
 namespace {
 
@@ -43,12 +45,33 @@ class ScratchFile {
   int descriptor_;
 };
 
+/// A page that the process and its parent both see.
+class SharedProgress {
+ public:
+  SharedProgress()
+      : page_(mmap(nullptr, sizeof(KYRImportProgress), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1,
+                   0)),
+        progress_(page_ == MAP_FAILED ? nullptr : new (page_) KYRImportProgress) {}
+  SharedProgress(const SharedProgress&) = delete;
+  SharedProgress& operator=(const SharedProgress&) = delete;
+  ~SharedProgress() {
+    if (progress_ != nullptr) munmap(page_, sizeof(KYRImportProgress));
+  }
+  /// Null when the system had no page to give.
+  KYRImportProgress* get() const noexcept { return progress_; }
+
+ private:
+  void* page_;
+  KYRImportProgress* progress_;
+};
+
 }  // namespace
 
 struct ImportChild::Channels {
   ScratchFile shown;
   ScratchFile logged;
   ScratchFile result;
+  SharedProgress progress;
   bool areOpen() const noexcept {
     return shown.getDescriptor() >= 0 && logged.getDescriptor() >= 0 && result.getDescriptor() >= 0;
   }
@@ -71,6 +94,7 @@ void ImportChild::work(const sigset_t& mask, pid_t parent) {
   // A parent that is killed must not leave children behind; it may be gone already.
   prctl(PR_SET_PDEATHSIG, SIGTERM);
   if (getppid() != parent) _exit(ExitCode::failed);
+  ProgressLine::forget();
   dup2(channels_->shown.getDescriptor(), STDERR_FILENO);
   sigprocmask(SIG_SETMASK, &mask, nullptr);
   int code = ExitCode::failed;
@@ -90,8 +114,11 @@ int ImportChild::import() {
   ImportCommand::Settings settings = settings_;
   settings.isQuiet = true;  // the parent tells the result
   settings.logFile.clear();
+  KYRImportProgress::setCurrent(channels_->progress.get());
   ImportCommand command(settings, library, output, log);
-  const int code = runGuarded(log, ExitCode::failed, [&command] { return command.run(); });
+  const bool isHintWanted = !settings_.isQuiet && !settings_.normalize.isWanted();
+  const int code =
+      FailureHint::runWith(log, settings_.file, isHintWanted, [&command] { return command.run(); });
   const ImportCommand::Result& result = command.getResult();
   static_assert(std::is_trivially_copyable_v<ImportCommand::Result>);
   const ssize_t written = ::write(channels_->result.getDescriptor(), &result, sizeof result);
@@ -111,6 +138,11 @@ void ImportChild::finish(int status) {
 
 bool ImportChild::isDone() const noexcept {
   return WIFEXITED(status_) && WEXITSTATUS(status_) == ExitCode::done;
+}
+
+KYRImportProgress::State ImportChild::getProgress() const noexcept {
+  const KYRImportProgress* const progress = channels_ ? channels_->progress.get() : nullptr;
+  return progress != nullptr ? progress->getState() : KYRImportProgress::State();
 }
 
 int ImportChild::getSignal() const noexcept { return WIFSIGNALED(status_) ? WTERMSIG(status_) : 0; }

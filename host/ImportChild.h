@@ -11,6 +11,7 @@
 #include <memory>
 #include <string>
 
+#include "foundation/KYRImportProgress.h"
 #include "host/ImportCommand.h"
 
 class ImportChild {
@@ -38,6 +39,8 @@ class ImportChild {
   const std::string& getShown() const noexcept { return shown_; }
   const std::string& getLogged() const noexcept { return logged_; }
   const ImportCommand::Result& getResult() const noexcept { return result_; }
+  /// Where the process is at this moment; empty when none runs or nothing is known.
+  KYRImportProgress::State getProgress() const noexcept;
 
  private:
   struct Channels;

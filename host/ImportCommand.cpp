@@ -14,16 +14,13 @@
 #include "host/KYRHostTexts.h"
 #include "host/PhaseReport.h"
 #include "host/PluginLibrary.h"
+#include "host/ProgressWatch.h"
 #include "host/TextOut.h"
 #include "host/TraceFile.h"
 #include "repository/plugin/KYRImportBridgeDllInterface.h"
 
 namespace {
 
-// Names the host as the origin of the model.
-constexpr const char* originId = "kyr";
-
-constexpr const char* fileOption = "BP_FILE";
 constexpr const char* rootPackageOption = "BP_ROOT_PACKAGE";
 // Read by libkyr, not by the plug-in, hence in no list of options that a plug-in gives.
 constexpr const char* modificationTimeOption = "BP_MODIFICATION_TIME";
@@ -74,10 +71,11 @@ int ImportCommand::run() {
   const PhaseReport phases(settings_.withTiming);
   const ModelSaver saver(formatOf(settings_), settings_.isAppending);
   TraceFile trace(settings_.traceFile);
+  ProgressWatch progress(!settings_.isQuiet && settings_.format == HostLog::Format::text);
   importFile(options);
   trace.commit(normalizer_ ? &normalizer_->getReport() : nullptr);
   result_ = {std::chrono::duration<double>(Clock::now() - start).count(), saver.getCounts()};
-  if (!settings_.isQuiet) writeSummary(phases, trace);
+  if (!settings_.isQuiet) writeSummary(phases, trace, progress);
   return ExitCode::done;
 }
 
@@ -137,8 +135,8 @@ bool ImportCommand::traceClashes() const {
 
 void ImportCommand::fillOptions(KYROptionList& options) {
   library_.getPlugin().getOptionList(options);
-  setOption(options, fileOption, settings_.file);
-  if (!settings_.rootPackage.empty()) setOption(options, rootPackageOption, settings_.rootPackage);
+  setOption(options, library_, fileOption, settings_.file);
+  if (!settings_.rootPackage.empty()) setOption(options, library_, rootPackageOption, settings_.rootPackage);
   if (settings_.modificationTime.empty()) return;
   auto time = std::make_unique<KYROption>(modificationTimeOption, modificationTimeOption, OptionType::text,
                                           KYRString(), KYRString(), false);
@@ -146,10 +144,11 @@ void ImportCommand::fillOptions(KYROptionList& options) {
   options.add(time.release());  // takes ownership whatever it answers
 }
 
-void ImportCommand::setOption(KYROptionList& options, const char* identifier, const std::string& value) {
+void ImportCommand::setOption(KYROptionList& options, const PluginLibrary& library, const char* identifier,
+                              const std::string& value) {
   KYROption* const option = options.get(identifier);
   if (option == nullptr) {
-    KYRHostMessages::PLUGIN_NO_OPTION.throwException(KYRString(library_.getPath()), KYRString(identifier));
+    KYRHostMessages::PLUGIN_NO_OPTION.throwException(KYRString(library.getPath()), KYRString(identifier));
   }
   option->setValue(KYRString(value));
 }
@@ -166,9 +165,10 @@ void ImportCommand::resultToJson(JsonOut& json, const std::string& target, const
   if (result.counts.has_value()) countsToJson(json, *result.counts);
 }
 
-void ImportCommand::writeSummary(const PhaseReport& phases, const TraceFile& trace) {
+void ImportCommand::writeSummary(const PhaseReport& phases, const TraceFile& trace, ProgressWatch& progress) {
   std::optional<LossSurvey::Loss> loss;
   if (result_.counts.has_value() && survey_) {
+    progress.tell(KYRHostTexts::PROGRESS_SURVEY);
     loss =
         survey_->compare(KYRFile(KYRString(settings_.file)), *result_.counts, !settings_.rootPackage.empty());
   }

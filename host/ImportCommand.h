@@ -15,6 +15,7 @@ class JsonOut;
 class KYROptionList;
 class PhaseReport;
 class PluginLibrary;
+class ProgressWatch;
 class TraceFile;
 
 class ImportCommand {
@@ -43,6 +44,13 @@ class ImportCommand {
     std::optional<SavedModelCounts> counts;
   };
 
+  /// Names the host as the origin of a model.
+  static constexpr const char* originId = "kyr";
+  /// The option of the plug-in that names the file to import.
+  static constexpr const char* fileOption = "BP_FILE";
+  /// Raises KYRException when the plug-in has no option of that name.
+  static void setOption(KYROptionList& options, const PluginLibrary& library, const char* identifier,
+                        const std::string& value);
   /// The file that a model is written to.
   static std::string targetOf(const Settings& settings);
   static KYRString inSeconds(double seconds);
@@ -63,8 +71,7 @@ class ImportCommand {
   bool traceClashes() const;
   void fillOptions(KYROptionList& options);
   void importFile(KYROptionList& options);
-  void setOption(KYROptionList& options, const char* identifier, const std::string& value);
-  void writeSummary(const PhaseReport& phases, const TraceFile& trace);
+  void writeSummary(const PhaseReport& phases, const TraceFile& trace, ProgressWatch& progress);
 
   Settings settings_;
   PluginLibrary& library_;

@@ -1,19 +1,17 @@
 // Numbers stand in columns of fixed width, and the name of the file behind them.
 #include "host/ImportReport.h"
 
-#include <unistd.h>
-
 #include <cstdio>
 
+#include "foundation/KYRFile.h"
 #include "host/ImportChild.h"
 #include "host/JsonOut.h"
 #include "host/KYRHostMessages.h"
 #include "host/KYRHostTexts.h"
+#include "host/ProgressText.h"
 #include "host/TextOut.h"
 
 namespace {
-
-constexpr const char* clearLine = "\r\x1b[K";
 
 std::string rowOf(const KYRString& word, double seconds, const SavedModelCounts* counts,
                   const std::string& name) {
@@ -41,11 +39,9 @@ ImportReport::ImportReport(bool isQuiet, HostLog::Format format, std::size_t fil
       fileCount_(fileCount),
       output_(output),
       log_(log),
-      terminal_(STDERR_FILENO),
-      hasTerminal_(!isQuiet && format == HostLog::Format::text && isatty(STDERR_FILENO) == 1) {}
+      progress_(!isQuiet && format == HostLog::Format::text) {}
 
 void ImportReport::tell(const ImportChild& child) {
-  clearProgress();
   log_.passOn(child.getShown(), child.getLogged());
   if (child.isDone()) {
     tellDone(child);
@@ -100,7 +96,6 @@ void ImportReport::tellFailed(const ImportChild& child) {
 }
 
 void ImportReport::close() {
-  clearProgress();
   if (isQuiet_) return;
   if (format_ == HostLog::Format::json) {
     JsonOut json;
@@ -120,17 +115,15 @@ void ImportReport::close() {
   output_.write(rowOf(KYRString(), seconds_, &sum_, std::string(sum.view())));
 }
 
-void ImportReport::showProgress(std::size_t done) {
-  if (!hasTerminal_) return;
-  terminal_.write(clearLine);
-  terminal_.write(KYRHostTexts::BATCH_PROGRESS
-                      .toString(KYRString(std::to_string(done)), KYRString(std::to_string(fileCount_)))
-                      .view());
-  terminal_.flush();
-}
-
-void ImportReport::clearProgress() {
-  if (!hasTerminal_) return;
-  terminal_.write(clearLine);
-  terminal_.flush();
+void ImportReport::showProgress(std::size_t done, const std::vector<const ImportChild*>& running) {
+  if (!showsProgress()) return;
+  KYRString line = KYRHostTexts::BATCH_PROGRESS.toString(KYRString(std::to_string(done)),
+                                                         KYRString(std::to_string(fileCount_)));
+  for (const ImportChild* child : running) {
+    const KYRString state = ProgressText::brieflyOf(child->getProgress());
+    if (state.isEmpty()) continue;
+    const KYRString name = KYRFile(KYRString(child->getFile())).getFileName();
+    line += KYRHostTexts::BATCH_PROGRESS_OF.toString(KYRString(TerminalText::escape(name.view())), state);
+  }
+  progress_.show(line.view());
 }

@@ -2,10 +2,12 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "host/HostLog.h"
 #include "host/ImportCommand.h"
 #include "host/Output.h"
+#include "host/ProgressLine.h"
 #include "host/SavedModelCounts.h"
 
 class ImportChild;
@@ -18,9 +20,10 @@ class ImportReport {
   void tell(const ImportChild& child);
   /// The table, after the last child.
   void close();
-  /// How many files are done, in the last line of a terminal; nothing where there is none.
-  void showProgress(std::size_t done);
-  void clearProgress();
+  /// Whether there is a terminal to show progress on.
+  bool showsProgress() const noexcept { return progress_.isOn(); }
+  /// How many files are done and where those are that are being imported, in the last line of a terminal.
+  void showProgress(std::size_t done, const std::vector<const ImportChild*>& running);
 
  private:
   void tellDone(const ImportChild& child);
@@ -32,8 +35,7 @@ class ImportReport {
   std::size_t fileCount_;
   Output& output_;
   HostLog& log_;
-  Output terminal_;
-  bool hasTerminal_;
+  ProgressLine progress_;
   std::string rows_;
   std::size_t failed_ = 0;
   double seconds_ = 0;

@@ -7,10 +7,12 @@
 
 #include "foundation/xml/XmlRewriting.h"
 #include "host/InspectDiagrams.h"
+#include "host/InspectImport.h"
 #include "host/InspectObjects.h"
 #include "host/InspectReport.h"
 #include "host/JsonOut.h"
 #include "host/KYRHostTexts.h"
+#include "host/ProgressWatch.h"
 #include "host/TextOut.h"
 #include "uml/UMLElement.h"
 #include "uml/UMLMetamodel.h"
@@ -66,33 +68,81 @@ void namesToJson(JsonOut& json, const char* nameKey, const std::vector<InspectRe
   json.endArray();
 }
 
+void importToText(TextOut& out, const InspectImport* import) {
+  if (import == nullptr) return;
+  if (!import->getFailure().isEmpty()) {
+    out.line(KYRHostTexts::INSPECT_NO_IMPORT, import->getFailure());
+    return;
+  }
+  const TraceCounts& counts = import->getCounts();
+  const KYRTraceTotals& totals = counts.getTotals();
+  out.line(KYRHostTexts::INSPECT_CONVERTED, totals.converted);
+  out.line(KYRHostTexts::INSPECT_ABSORBED, totals.absorbed);
+  counts.writeReasons(out, KYRTraceOutcome::absorbed);
+  out.line(KYRHostTexts::INSPECT_LOST, totals.lost);
+  counts.writeReasons(out, KYRTraceOutcome::lost);
+}
+
+void importToJson(JsonOut& json, const InspectImport* import) {
+  if (import == nullptr) return;
+  json.key("import").beginObject();
+  if (import->getFailure().isEmpty()) {
+    import->getCounts().writeTotals(json);
+    import->getCounts().writeReasons(json);
+  } else {
+    json.key("failure").text(import->getFailure());
+  }
+  json.endObject();
+}
+
 }  // namespace
 
 void InspectCommand::run() {
-  InspectReport report;
-  XMIParser parser(&log_);
-  if (!settings_.listsObjects) parser.setObserver(&report);
+  if (settings_.normalize.isWanted()) {
+    const KYRFile input{KYRString(settings_.file)};
+    normalizer_.emplace(std::string(input.getFileName().view()), settings_.normalize.getExtent());
+  }
+  const ProgressWatch progress(true);
+  if (settings_.listsObjects) {
+    listObjects();
+  } else {
+    report();
+  }
+}
+
+void InspectCommand::listObjects() {
   const KYRFile input{KYRString(settings_.file)};
   std::optional<XmlRewriting> rewriting;
-  if (settings_.normalize.isWanted()) {
-    normalizer_.emplace(std::string(input.getFileName().view()), settings_.normalize.getExtent());
-    rewriting.emplace(input, *normalizer_);
-  }
+  if (normalizer_) rewriting.emplace(input, *normalizer_);
+  XMIParser parser(&log_);
   parser.parse(input);
-  if (settings_.listsObjects) {
-    InspectObjects(parser.getObjects(), parser.getMadeObjects()).write(output_);
-    return;
+  InspectObjects(parser.getObjects(), parser.getMadeObjects()).write(output_);
+}
+
+// The import comes first: its model is gone before the objects of the report are made.
+void InspectCommand::report() {
+  Normalizer* const normalizer = normalizer_ ? &*normalizer_ : nullptr;
+  std::unique_ptr<const InspectImport> import;
+  if (!settings_.isQuick) {
+    import = std::make_unique<const InspectImport>(settings_.file, normalizer, library_);
   }
-  const InspectDiagrams diagrams(log_, KYRFile(KYRString(settings_.file)));
+  const KYRFile input{KYRString(settings_.file)};
+  std::optional<XmlRewriting> rewriting;
+  if (import == nullptr && normalizer != nullptr) rewriting.emplace(input, *normalizer);
+  InspectReport report;
+  XMIParser parser(&log_);
+  parser.setObserver(&report);
+  parser.parse(input);
+  const InspectDiagrams diagrams(log_, input);
   if (settings_.isJson) {
-    writeJson(parser, report, diagrams);
+    writeJson(parser, report, diagrams, import.get());
   } else {
-    writeText(parser, report, diagrams);
+    writeText(parser, report, diagrams, import.get());
   }
 }
 
 void InspectCommand::writeText(const XMIParser& parser, const InspectReport& report,
-                               const InspectDiagrams& diagrams) {
+                               const InspectDiagrams& diagrams, const InspectImport* import) {
   using namespace KYRHostTexts;
   const KYRString unknown = INSPECT_UNKNOWN.toString();
   const auto known = [&unknown](const KYRString& text) { return text.isEmpty() ? unknown : text; };
@@ -118,11 +168,12 @@ void InspectCommand::writeText(const XMIParser& parser, const InspectReport& rep
   for (const KYRString& id : report.getFirstMissingIds()) out.line(INSPECT_MISSING_ID, shorten(id.view()));
   listNames(out, INSPECT_SKIPPED_TYPES, report.getSkippedTypes());
   listNames(out, INSPECT_UNKNOWN_TAGS, report.getUnknownTags());
+  importToText(out, import);
   if (normalizer_) NormalizeSummary::toText(out, normalizer_->getReport());
 }
 
 void InspectCommand::writeJson(const XMIParser& parser, const InspectReport& report,
-                               const InspectDiagrams& diagrams) {
+                               const InspectDiagrams& diagrams, const InspectImport* import) {
   JsonOut json;
   json.beginObject();
   json.key("file").text(settings_.file);
@@ -154,6 +205,7 @@ void InspectCommand::writeJson(const XMIParser& parser, const InspectReport& rep
   json.endObject();
   namesToJson(json.key("skippedTypes"), "type", report.getSkippedTypes());
   namesToJson(json.key("unknownTags"), "tag", report.getUnknownTags());
+  importToJson(json, import);
   if (normalizer_) NormalizeSummary::toJson(json.key("normalized"), normalizer_->getReport());
   json.endObject();
   output_.write(json.endLine());

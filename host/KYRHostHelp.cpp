@@ -9,11 +9,14 @@ const HostText<0> HELP(
     "\n"
     "Design tools write their models as XMI files, each in its own manner. kyr reads such a\n"
     "file (XMI 2.x with UML 2.x), and saves its packages, classes, interfaces, attributes,\n"
-    "operations and what ties them together as one JSON document.");
+    "operations and what ties them together as one JSON document or in an SQLite database.\n"
+    "Of a saved model it makes a page to look at and pictures, and tells what has changed.");
 const HostText<0> HELP_EXAMPLES(
     "HELP_EXAMPLES",
-    "Example:\n"
-    "  kyr import shop.xmi -o shop.json\n"
+    "Examples:\n"
+    "  kyr inspect shop.xmi                    what is in the file\n"
+    "  kyr import shop.xmi -o shop.json        the model as a document\n"
+    "  kyr report shop.json                    a page of it for a browser\n"
     "\n"
     "'kyr COMMAND --help' tells more of a command.\n"
     "\n"
@@ -68,7 +71,7 @@ const HostText<0> IMPORT_HELP_MODIFICATION_TIME(
     "The time of modification to save, instead of the present: ISO 8601, such as 2026-01-01T00:00:00Z. The "
     "same file then gives the same bytes");
 const HostText<0> IMPORT_HELP_QUIET("IMPORT_HELP_QUIET",
-                                    "Print warnings and errors only: no STATUS lines and no summary");
+                                    "Print warnings and errors only: no STATUS lines, progress and summary");
 const HostText<0> IMPORT_HELP_TIMING("IMPORT_HELP_TIMING",
                                      "Tell in the summary what processor time each phase took");
 const HostText<0> IMPORT_HELP_TRACE(
@@ -104,8 +107,9 @@ const HostText<0> INSPECT_HELP(
     "Show what the reader makes of a model file. Nothing is saved.\n"
     "\n"
     "The tool that wrote the file and the versions of UML and XMI in it, how many objects\n"
-    "of each UML class were read, which references lead nowhere, and which parts of the\n"
-    "file are not understood.");
+    "of each UML class were read, which references lead nowhere, which parts of the file\n"
+    "are not understood, and how many objects an import would convert, absorb in others and\n"
+    "lose, with the reasons. 'kyr import --trace' tells of each.");
 const HostText<0> INSPECT_HELP_EXAMPLES(
     "INSPECT_HELP_EXAMPLES",
     "Examples:\n"
@@ -117,6 +121,9 @@ const HostText<0> INSPECT_HELP_OBJECTS(
     "INSPECT_HELP_OBJECTS",
     "Instead of the report, print each UML object as one line of JSON, in order of reading. References are "
     "indexes of other lines, counted from 0");
+
+const HostText<0> INSPECT_HELP_QUICK(
+    "INSPECT_HELP_QUICK", "Only read the file, and do not tell what an import would make of the objects");
 
 const HostText<0> DIAGRAM_HELP(
     "DIAGRAM_HELP",
@@ -144,12 +151,17 @@ const HostText<0> REPORT_HELP(
 const HostText<0> REPORT_HELP_EXAMPLES("REPORT_HELP_EXAMPLES",
                                        "Examples:\n"
                                        "  kyr report shop.json                    writes shop.html here\n"
-                                       "  kyr report shop.json -o pages/          writes pages/shop.html");
+                                       "  kyr report shop.json -o pages/          writes pages/shop.html\n"
+                                       "  kyr report shop.json --messages shop.log");
 const HostText<0> REPORT_HELP_FILE("REPORT_HELP_FILE", "The saved model");
 const HostText<0> REPORT_HELP_OUTPUT(
     "REPORT_HELP_OUTPUT",
     "The file to write, or a folder to write it in. Without it: the name of the model with the "
     "extension .html, in the current folder");
+
+const HostText<0> REPORT_HELP_MESSAGES(
+    "REPORT_HELP_MESSAGES",
+    "Show what the import said, which is in this file: the one of 'kyr import --log-file'");
 
 const HostText<0> NORMALIZE_HELP(
     "NORMALIZE_HELP",

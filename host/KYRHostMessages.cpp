@@ -7,6 +7,7 @@ namespace {
 
 const char fatal[] = "FATAL";
 const char warning[] = "WARNING";
+const char status[] = "STATUS";
 
 std::vector<KYRTextLiteral*>& entered() {
   static std::vector<KYRTextLiteral*> literals;
@@ -53,6 +54,12 @@ const HostMessage<2> KYRHostMessages::NO_SUCH_DIAGRAM(17, fatal,
 
 const HostMessage<1> KYRHostMessages::PAGE_IS_MODEL(
     50, fatal, "The page would be written over the model '{0}'; '-o' names another file");
+const HostMessage<1> KYRHostMessages::PAGE_IS_LOG(
+    51, fatal, "The page would be written over the log file '{0}'; '-o' names another file");
+const HostMessage<1> KYRHostMessages::MODEL_NOT_IMPORTED(
+    52, fatal, "'{0}' is XML and no saved model; 'kyr import' makes one of a model file");
+const HostMessage<1> KYRHostMessages::MODEL_IS_DATABASE(
+    53, fatal, "'{0}' is a database; what is wanted is the JSON file that 'kyr import -o NAME.json' writes");
 const HostMessage<2> KYRHostMessages::NO_FOLDER(
     30, fatal, "The model cannot be written to '{0}': there is no folder '{1}'");
 const HostMessage<0> KYRHostMessages::APPEND_NEEDS_SQLITE(
@@ -79,6 +86,10 @@ const HostMessage<1> KYRHostMessages::ATTRIBUTE_RINGS(
 const HostMessage<1> KYRHostMessages::NORMALIZED_IS_INPUT(
     43, fatal,
     "The rewritten file would be written over the file that it comes from, '{0}'; '-o' names another one");
+const HostMessage<1> KYRHostMessages::HINT_NORMALIZE(
+    44, status, "The file holds a model, but is not written in the usual form; '{0}' reads it all the same");
+const HostMessage<1> KYRHostMessages::HINT_FIRST_XMI(
+    45, status, "The file is XMI {0}, which is another language; export the model as XMI 2.1 or later");
 const HostMessage<1> KYRHostMessages::TRACE_IS_OTHER_FILE(
     60, fatal,
     "The trace '{0}' would be written over the file that is to be imported, the model or the log file");

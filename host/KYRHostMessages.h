@@ -27,11 +27,15 @@ class KYRHostMessages final : public KYRTextLiteralsCollection {
   static const HostMessage<2> LOG_FILE_CANNOT_OPEN;
   static const HostMessage<2> LOG_FILE_INCOMPLETE;
   static const HostMessage<1> CANNOT_WRITE_OUTPUT;
+  // The saved model that a command works with.
+  static const HostMessage<1> MODEL_NOT_IMPORTED;
+  static const HostMessage<1> MODEL_IS_DATABASE;
   // Diagrams.
   static const HostMessage<1> NO_DIAGRAMS;
   static const HostMessage<2> NO_SUCH_DIAGRAM;
   // The page of a model.
   static const HostMessage<1> PAGE_IS_MODEL;
+  static const HostMessage<1> PAGE_IS_LOG;
   // The output of an import.
   static const HostMessage<2> NO_FOLDER;
   static const HostMessage<0> APPEND_NEEDS_SQLITE;
@@ -39,6 +43,9 @@ class KYRHostMessages final : public KYRTextLiteralsCollection {
   static const HostMessage<0> TOOL_NAME_FOUND;
   static const HostMessage<1> ATTRIBUTE_RINGS;
   static const HostMessage<1> NORMALIZED_IS_INPUT;
+  // What may help, behind an error.
+  static const HostMessage<1> HINT_NORMALIZE;
+  static const HostMessage<1> HINT_FIRST_XMI;
   // Imports of several files.
   static const HostMessage<1> OUTPUT_NOT_A_FOLDER;
   static const HostMessage<3> OUTPUTS_CLASH;

@@ -9,6 +9,7 @@ const HostText<1> NOT_A_TIME("NOT_A_TIME", "'{0}' is no time as of ISO 8601, suc
 const HostText<2> NO_SUCH_STORE("NO_SUCH_STORE", "'{0}' is no data store; there are {1}");
 
 const HostText<0> NO_NAME("NO_NAME", "the name is empty");
+const HostText<0> NO_COMMAND("NO_COMMAND", "A command is wanted, such as 'import'");
 const HostText<1> UNKNOWN_COMMAND("UNKNOWN_COMMAND", "There is no command '{0}'");
 
 const HostText<2> SUMMARY("SUMMARY", "Wrote '{0}' in {1} s");
@@ -28,6 +29,19 @@ const HostText<0> BATCH_DONE("BATCH_DONE", "done");
 const HostText<0> BATCH_FAILED("BATCH_FAILED", "failed");
 const HostText<2> BATCH_SUM("BATCH_SUM", "files: {0}, failed: {1}");
 const HostText<2> BATCH_PROGRESS("BATCH_PROGRESS", "{0} of {1} files done");
+const HostText<2> BATCH_PROGRESS_OF("BATCH_PROGRESS_OF", "; {0}: {1}");
+
+const HostText<3> PROGRESS_READING("PROGRESS_READING", "reading {0} of {1} MB, {2} %");
+const HostText<1> PROGRESS_READING_BRIEFLY("PROGRESS_READING_BRIEFLY", "reading {0} %");
+const HostText<0> PROGRESS_NORMALISE("PROGRESS_NORMALISE", "bringing the file into the usual form");
+const HostText<0> PROGRESS_OBJECTS("PROGRESS_OBJECTS", "making objects");
+const HostText<0> PROGRESS_LINK("PROGRESS_LINK", "resolving references");
+const HostText<0> PROGRESS_EXTENSION("PROGRESS_EXTENSION", "taking over the tool's own data");
+const HostText<0> PROGRESS_CONVERT("PROGRESS_CONVERT", "converting");
+const HostText<0> PROGRESS_FINISH("PROGRESS_FINISH", "finishing the model");
+const HostText<0> PROGRESS_SAVE("PROGRESS_SAVE", "saving");
+const HostText<0> PROGRESS_RELEASE("PROGRESS_RELEASE", "releasing memory");
+const HostText<0> PROGRESS_SURVEY("PROGRESS_SURVEY", "looking for what was lost");
 
 const HostText<1> DIAGRAM_WRITTEN("DIAGRAM_WRITTEN", "Wrote '{0}'");
 const HostText<1> REPORT_WRITTEN("REPORT_WRITTEN", "Wrote '{0}'");
@@ -89,5 +103,9 @@ const HostText<1> INSPECT_SKIPPED_TYPES("INSPECT_SKIPPED_TYPES", "Skipped values
 const HostText<1> INSPECT_UNKNOWN_TAGS("INSPECT_UNKNOWN_TAGS", "Unknown tags: {0}");
 const HostText<3> INSPECT_COUNT_AT("INSPECT_COUNT_AT", "  {0}  {1}  first at {2}");
 const HostText<1> INSPECT_MORE("INSPECT_MORE", "  and {0} more, which '--json' lists");
+const HostText<1> INSPECT_CONVERTED("INSPECT_CONVERTED", "Converted:    {0}");
+const HostText<1> INSPECT_ABSORBED("INSPECT_ABSORBED", "Absorbed:     {0}");
+const HostText<1> INSPECT_LOST("INSPECT_LOST", "Lost:         {0}");
+const HostText<1> INSPECT_NO_IMPORT("INSPECT_NO_IMPORT", "No import:    {0}");
 
 }  // namespace KYRHostTexts

@@ -43,6 +43,7 @@ extern const HostText<0> INSPECT_HELP_EXAMPLES;
 extern const HostText<0> INSPECT_HELP_FILE;
 extern const HostText<0> INSPECT_HELP_JSON;
 extern const HostText<0> INSPECT_HELP_OBJECTS;
+extern const HostText<0> INSPECT_HELP_QUICK;
 
 extern const HostText<0> DIAGRAM_HELP;
 extern const HostText<0> DIAGRAM_HELP_EXAMPLES;
@@ -54,6 +55,7 @@ extern const HostText<0> REPORT_HELP;
 extern const HostText<0> REPORT_HELP_EXAMPLES;
 extern const HostText<0> REPORT_HELP_FILE;
 extern const HostText<0> REPORT_HELP_OUTPUT;
+extern const HostText<0> REPORT_HELP_MESSAGES;
 
 extern const HostText<0> NORMALIZE_HELP;
 extern const HostText<0> NORMALIZE_HELP_EXAMPLES;
@@ -76,6 +78,7 @@ extern const HostText<1> NOT_A_TIME;
 /// Why a data store is wrong usage, with the names of all.
 extern const HostText<2> NO_SUCH_STORE;
 extern const HostText<0> NO_NAME;
+extern const HostText<0> NO_COMMAND;
 extern const HostText<1> UNKNOWN_COMMAND;
 
 // The closing summary of an import: output file, seconds, and the counts.
@@ -130,6 +133,20 @@ extern const HostText<0> BATCH_DONE;
 extern const HostText<0> BATCH_FAILED;
 extern const HostText<2> BATCH_SUM;
 extern const HostText<2> BATCH_PROGRESS;
+extern const HostText<2> BATCH_PROGRESS_OF;
+
+// Where an import has come to, in the last line of a terminal.
+extern const HostText<3> PROGRESS_READING;
+extern const HostText<1> PROGRESS_READING_BRIEFLY;
+extern const HostText<0> PROGRESS_NORMALISE;
+extern const HostText<0> PROGRESS_OBJECTS;
+extern const HostText<0> PROGRESS_LINK;
+extern const HostText<0> PROGRESS_EXTENSION;
+extern const HostText<0> PROGRESS_CONVERT;
+extern const HostText<0> PROGRESS_FINISH;
+extern const HostText<0> PROGRESS_SAVE;
+extern const HostText<0> PROGRESS_RELEASE;
+extern const HostText<0> PROGRESS_SURVEY;
 
 /// One line of `kyr diagram` for each picture.
 extern const HostText<1> DIAGRAM_WRITTEN;
@@ -195,5 +212,9 @@ extern const HostText<1> INSPECT_SKIPPED_TYPES;
 extern const HostText<1> INSPECT_UNKNOWN_TAGS;
 extern const HostText<3> INSPECT_COUNT_AT;
 extern const HostText<1> INSPECT_MORE;
+extern const HostText<1> INSPECT_CONVERTED;
+extern const HostText<1> INSPECT_ABSORBED;
+extern const HostText<1> INSPECT_LOST;
+extern const HostText<1> INSPECT_NO_IMPORT;
 
 }  // namespace KYRHostTexts

@@ -2,12 +2,14 @@
 #include "host/NormalizeCommand.h"
 
 #include "foundation/KYRFile.h"
+#include "foundation/KYRPhaseTimes.h"
 #include "foundation/xml/XmlDocumentReader.h"
 #include "foundation/xml/XmlDocumentWriter.h"
 #include "host/ExitCode.h"
 #include "host/FileNames.h"
 #include "host/KYRHostMessages.h"
 #include "host/KYRHostTexts.h"
+#include "host/ProgressWatch.h"
 #include "host/TextOut.h"
 #include "repository/storage/ReplacedFile.h"
 
@@ -19,13 +21,23 @@ int NormalizeCommand::run() {
   const KYRFile input{KYRString(settings_.file)};
   Normalizer normalizer(std::string(input.getFileName().view()),
                         settings_.isAll ? Normalizer::Extent::all : Normalizer::Extent::usual);
-  const std::shared_ptr<const XmlDocument> document = normalizer.rewrite(readXmlFile(input, nullptr, false));
-  ReplacedFile target{KYRFile(KYRString(settings_.output))};
-  writeXmlDocument(*document, [&target](std::string_view text) { target.write(text); });
-  target.commit();
+  const ProgressWatch progress(true);
+  std::shared_ptr<const XmlDocument> document = readXmlFile(input, nullptr, false);
+  {
+    const KYRPhaseTimer timer(KYRPhase::normalise);
+    document = normalizer.rewrite(document);
+  }
+  write(*document);
   NormalizeSummary::logNotes(log_, normalizer.getReport());
   TextOut out(output_);
   out.line(KYRHostTexts::NORMALIZE_WRITTEN, settings_.output);
   NormalizeSummary::toText(out, normalizer.getReport());
   return ExitCode::done;
+}
+
+void NormalizeCommand::write(const XmlDocument& document) const {
+  const KYRPhaseTimer timer(KYRPhase::save);
+  ReplacedFile target{KYRFile(KYRString(settings_.output))};
+  writeXmlDocument(document, [&target](std::string_view text) { target.write(text); });
+  target.commit();
 }

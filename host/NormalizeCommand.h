@@ -7,6 +7,8 @@
 #include "host/NormalizeSummary.h"
 #include "host/Output.h"
 
+class XmlDocument;
+
 class NormalizeCommand {
  public:
   struct Settings {
@@ -21,6 +23,8 @@ class NormalizeCommand {
   int run();
 
  private:
+  void write(const XmlDocument& document) const;
+
   Settings settings_;
   Output& output_;
   HostLog& log_;

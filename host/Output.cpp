@@ -5,6 +5,9 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <optional>
+
+#include "host/ProgressLine.h"
 
 namespace {
 constexpr std::size_t bufferSize = std::size_t{64} * 1024;
@@ -26,6 +29,9 @@ void Output::flush() {
 }
 
 void Output::send(std::string_view bytes) {
+  if (bytes.empty()) return;
+  std::optional<ProgressLine::Pause> pause;
+  if (descriptor_ == STDOUT_FILENO || descriptor_ == STDERR_FILENO) pause.emplace();
   while (!bytes.empty() && !isClosed_ && error_ == 0) {
     const ssize_t written = ::write(descriptor_, bytes.data(), bytes.size());
     if (written >= 0) {

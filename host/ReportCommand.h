@@ -11,6 +11,7 @@ class ReportCommand {
   struct Settings {
     std::string file;    // a saved model
     std::string output;  // empty: the name of the model, in the current folder
+    std::string log;     // what the import said; empty: nothing is shown of that
   };
 
   ReportCommand(Settings settings, Output& output, HostLog& log)
@@ -20,6 +21,9 @@ class ReportCommand {
   int run();
 
  private:
+  /// What the import said, as JSON; empty when no log is given.
+  std::string messagesToJson() const;
+
   Settings settings_;
   Output& output_;
   HostLog& log_;

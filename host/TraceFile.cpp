@@ -1,9 +1,6 @@
 // Lines are gathered to blocks, since there is one for nearly every element of a file.
 #include "host/TraceFile.h"
 
-#include <algorithm>
-#include <vector>
-
 #include "host/KYRHostTexts.h"
 #include "host/NormalizeSummary.h"
 #include "host/TextOut.h"
@@ -11,13 +8,6 @@
 namespace {
 
 constexpr std::size_t blockSize = std::size_t{1} << 16U;
-
-void totalsToJson(JsonOut& json, const KYRTraceTotals& totals) {
-  json.key("elements").number(totals.read);
-  json.key("converted").number(totals.converted);
-  json.key("absorbed").number(totals.absorbed);
-  json.key("lost").number(totals.lost);
-}
 
 void textToJson(JsonOut& json, const char* key, const KYRString& text) {
   if (!text.isEmpty()) json.key(key).text(text);
@@ -38,7 +28,7 @@ TraceFile::~TraceFile() {
 
 void TraceFile::record(const KYRTraceRecord& told) {
   const KYRTraceReasons::Row& row = KYRTraceReasons::get(told.reason);
-  counts_[static_cast<std::size_t>(told.reason)] += told.count;
+  counts_.add(told);
   json_.beginLine();
   json_.beginObject();
   json_.key("outcome").text(KYRTraceReasons::getName(row.outcome));
@@ -59,7 +49,7 @@ void TraceFile::record(const KYRTraceRecord& told) {
 }
 
 void TraceFile::finish(const KYRTraceTotals& totals) {
-  totals_ = totals;
+  counts_.setTotals(totals);
   isFinished_ = true;
 }
 
@@ -82,7 +72,7 @@ void TraceFile::commit(const NormalizeReport* rules) {
   if (isFinished_) {  // the sum is the last line
     json_.beginLine();
     json_.beginObject();
-    totalsToJson(json_, totals_);
+    counts_.writeTotals(json_);
     json_.endObject();
     addLine();
   }
@@ -93,31 +83,16 @@ void TraceFile::commit(const NormalizeReport* rules) {
 
 void TraceFile::write(TextOut& out) const {
   if (file_ == nullptr) return;
-  out.line(KYRHostTexts::SUMMARY_TRACE, totals_.read, totals_.converted, totals_.absorbed, totals_.lost,
-           path_);
-  std::vector<std::size_t> lost;
-  for (std::size_t i = 0; i < counts_.size(); ++i) {
-    const bool isLost = KYRTraceReasons::get(static_cast<KYRTraceReason>(i)).outcome == KYRTraceOutcome::lost;
-    if (isLost && counts_[i] != 0) lost.push_back(i);
-  }
-  std::stable_sort(lost.begin(), lost.end(),
-                   [this](std::size_t a, std::size_t b) { return counts_[a] > counts_[b]; });
-  for (const std::size_t i : lost) {
-    out.line(KYRHostTexts::INSPECT_COUNT, counts_[i],
-             KYRTraceReasons::get(static_cast<KYRTraceReason>(i)).getIdentifier());
-  }
+  const KYRTraceTotals& totals = counts_.getTotals();
+  out.line(KYRHostTexts::SUMMARY_TRACE, totals.read, totals.converted, totals.absorbed, totals.lost, path_);
+  counts_.writeReasons(out, KYRTraceOutcome::lost);
 }
 
 void TraceFile::write(JsonOut& json) const {
   if (file_ == nullptr) return;
   json.key("trace").beginObject();
   json.key("output").text(path_);
-  totalsToJson(json, totals_);
-  json.key("reasons").beginObject();
-  for (std::size_t i = 0; i < counts_.size(); ++i) {
-    if (counts_[i] == 0) continue;
-    json.key(KYRTraceReasons::get(static_cast<KYRTraceReason>(i)).getIdentifier().view()).number(counts_[i]);
-  }
-  json.endObject();
+  counts_.writeTotals(json);
+  counts_.writeReasons(json);
   json.endObject();
 }

@@ -1,13 +1,12 @@
 // TraceFile: `--trace`, what became of each element of a file, one JSON object a line.
 #pragma once
 
-#include <array>
-#include <cstdint>
 #include <memory>
 #include <string>
 
 #include "foundation/KYRImportTrace.h"
 #include "host/JsonOut.h"
+#include "host/TraceCounts.h"
 #include "repository/storage/ReplacedFile.h"
 
 struct NormalizeReport;
@@ -38,7 +37,6 @@ class TraceFile final : public KYRImportTrace {
   std::unique_ptr<ReplacedFile> file_;  // null: none is wanted
   JsonOut json_;
   std::string buffer_;
-  KYRTraceTotals totals_;
+  TraceCounts counts_;
   bool isFinished_ = false;
-  std::array<std::uint64_t, KYRTraceReasons::count> counts_{};
 };

@@ -36,13 +36,21 @@ void writeDiagrams(const KYRStoreModel& model, BlockSink& sink) {
   }
 }
 
+void writeMessages(std::string_view messages, BlockSink& sink) {
+  if (messages.empty()) return;
+  sink.write("<script type=\"application/json\" id=\"messages\">");
+  ScriptText(sink).write(messages);
+  sink.write("</script>\n");
+}
+
 }  // namespace
 
-void writeReport(const KYRStoreModel& model, BlockSink& sink) {
+void writeReport(const KYRStoreModel& model, std::string_view messages, BlockSink& sink) {
   sink.write(ReportPage::beforeStyle);
   sink.write(ReportPage::style);
   sink.write(ReportPage::beforeModel);
   writeModel(model, sink);
+  writeMessages(messages, sink);
   writeDiagrams(model, sink);
   sink.write(ReportPage::beforeScript);
   for (const std::string_view piece : ReportPage::script) sink.write(piece);

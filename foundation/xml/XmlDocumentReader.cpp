@@ -103,11 +103,14 @@ std::shared_ptr<const XmlDocument> readRewritten(XmlFileInput& input, XmlDocumen
   XmlDocumentCache& cache = XmlDocumentCache::get();
   std::shared_ptr<const XmlDocument> document = cache.find(identity, getForcedXmlEncoding(), Form::rewritten);
   if (!document) {
-    document = rewriter.rewrite(readAsWritten(input, nullptr, false));
+    document = readAsWritten(input, nullptr, false);
+    const KYRPhaseTimer timer(KYRPhase::normalise);
+    document = rewriter.rewrite(document);
     if (input.getIdentity() == identity) {
       cache.add(identity, getForcedXmlEncoding(), document, Form::rewritten);
     }
   }
+  const KYRPhaseTimer timer(KYRPhase::objects);
   if (listener != nullptr) replayDocument(document, *listener);
   return document;
 }

@@ -47,14 +47,21 @@ XmlFileInput::XmlFileInput(const KYRFile& file) : XmlInput(file.getPath()) {
     KYRStdMessages::FILE_CANNOT_OPEN.throwException(getName(), describeError(errno));
   }
   requireRegularFile(status, getName());
+  size_ = static_cast<std::uint64_t>(status.st_size);
 }
 
-XmlFileInput::~XmlFileInput() = default;
+XmlFileInput::~XmlFileInput() {
+  if (progress_ != nullptr) progress_->closeFile();
+}
 
 std::size_t XmlFileInput::read(char* buffer, std::size_t capacity) {
+  if (!isRead_) beginReading();
   for (;;) {
     const ssize_t length = ::read(descriptor_.number, buffer, capacity);
-    if (length >= 0) return static_cast<std::size_t>(length);
+    if (length >= 0) {
+      if (progress_ != nullptr) progress_->addBytes(static_cast<std::uint64_t>(length));
+      return static_cast<std::size_t>(length);
+    }
     if (errno != EINTR) KYRStdMessages::FILE_CANNOT_READ.throwException(getName(), describeError(errno));
   }
 }
@@ -63,6 +70,14 @@ void XmlFileInput::rewind() {
   if (::lseek(descriptor_.number, 0, SEEK_SET) < 0) {
     KYRStdMessages::FILE_CANNOT_READ.throwException(getName(), describeError(errno));
   }
+  isRead_ = false;  // progress begins anew too
+}
+
+// A file that is only asked for its identity makes no progress.
+void XmlFileInput::beginReading() noexcept {
+  isRead_ = true;
+  progress_ = KYRImportProgress::getCurrent();
+  if (progress_ != nullptr) progress_->openFile(size_);
 }
 
 XmlFileIdentity XmlFileInput::getIdentity() const {

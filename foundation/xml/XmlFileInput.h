@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "foundation/KYRFile.h"
+#include "foundation/KYRImportProgress.h"
 #include "foundation/xml/XmlInput.h"
 
 /// Two equal identities mean the same file with unchanged content.
@@ -31,6 +32,8 @@ class KYR_EXPORT XmlFileInput : public XmlInput {
   XmlFileIdentity getIdentity() const;
 
  private:
+  void beginReading() noexcept;
+
   // Closes the file also when the constructor of the input raises.
   struct Descriptor {
     int number = -1;
@@ -40,4 +43,7 @@ class KYR_EXPORT XmlFileInput : public XmlInput {
     ~Descriptor();
   };
   Descriptor descriptor_;
+  std::uint64_t size_ = 0;
+  KYRImportProgress* progress_ = nullptr;  // from the first read on, when somebody watches
+  bool isRead_ = false;
 };

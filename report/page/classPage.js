@@ -147,10 +147,15 @@ class ClassPage {
       })), true],
       ["Its end", (end) => joined(end.others.map((other) => this.endText(other)))],
       ["This end", (end) => this.endText(end.role)],
-      ["Association", (end) => end.association.name && fragments.name(end.association)],
-      ["Kind", (end) => aggregation(end)],
+      ["Association", (end) => this.associationText(end)],
       ["Description", (end) => this.annotations(end.association)],
     ], ends.find((end) => end.role === this.here));
+  }
+
+  associationText({ association, role, others }) {
+    const kind = aggregation({ association, role, others });
+    const parts = [association.name && this.fragments.name(association), kind && make("div", { class: "faint" }, kind)];
+    return parts.filter(hasContent);
   }
 
   endText(role) {

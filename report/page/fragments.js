@@ -2,6 +2,8 @@
 
 const longestName = 200;
 const longestTitle = 1000;
+const longestUnfolded = 1000;
+const longestBeginning = 300;
 const visibilities = ["public", "protected", "private", "package"];
 const visibilitySigns = ["+", "#", "-", "~"];
 
@@ -30,6 +32,14 @@ class Fragments {
 
   description(object) {
     return object.description ? make("div", { class: "text", dir: "auto" }, readable(object.description)) : null;
+  }
+
+  // The same where a list that follows must not be pushed away by it.
+  foldedDescription(object) {
+    const text = readable(object.description || "");
+    if (text.length <= longestUnfolded) return this.description(object);
+    return make("details", { class: "folded" }, make("summary", {}, shorten(text.trim(), longestBeginning).replace(/\s+/g, " ")),
+      this.description(object));
   }
 
   crumbs(object) {

@@ -26,6 +26,7 @@ class Report {
     this.modelName = plain(shorten(nameOf(model.root), longestName));
     document.getElementById("home").textContent = this.modelName;
     document.getElementById("skip").addEventListener("click", () => this.main.focus());
+    this.prepareContents(document.getElementById("contents"), document.getElementById("tree"));
     addEventListener("hashchange", () => {
       this.show();
       this.main.focus({ preventScroll: true });
@@ -35,6 +36,17 @@ class Report {
       for (const details of this.main.querySelectorAll("details")) details.open = true;
     });
     this.show();
+  }
+
+  // In a narrow window the tree waits behind a button, and goes when it has led somewhere.
+  prepareContents(button, tree) {
+    const set = (isOpen) => {
+      tree.classList.toggle("open", isOpen);
+      button.setAttribute("aria-expanded", String(isOpen));
+      if (isOpen) this.tree.showMarked();
+    };
+    button.addEventListener("click", () => set(!tree.classList.contains("open")));
+    addEventListener("hashchange", () => set(false));
   }
 
   show() {

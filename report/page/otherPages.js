@@ -7,7 +7,7 @@ function packagePage(fragments, package_) {
     fragments.crumbs(package_),
     fragments.title(package_),
     fragments.chips("package", package_.isModelPackage ? "" : "made by the import"),
-    fragments.description(package_),
+    fragments.foldedDescription(package_),
     bulletList("Packages", ofKind("package"), (inner) => fragments.entry(inner)),
     classTable(fragments, "Classes", ofKind("class")),
     bulletList("Diagrams", package_.diagrams || [], (diagram) => fragments.link(diagram)),
@@ -109,6 +109,7 @@ function picture(diagram) {
 
 function typesPage(fragments) {
   const types = fragments.model.ofKind("type").filter((type) => type.class !== "KYRClassType");
+  const isBase = (type) => type.class === "KYRConcreteType"; // a data type as such, which others rest on
   const columns = [
     ["Name", (type) => fragments.link(type), true],
     ["Data type", (type) => dataTypeText(type)],
@@ -119,7 +120,8 @@ function typesPage(fragments) {
   return [
     make("h1", {}, "Types"),
     table("Enumerations", types.filter((type) => type.typeValues), columns),
-    table("Other types", types.filter((type) => !type.typeValues), columns),
+    table("Other types", types.filter((type) => !type.typeValues && !isBase(type)), columns),
+    bulletList("Base types", types.filter((type) => !type.typeValues && isBase(type)), (type) => fragments.link(type), true),
   ];
 }
 
@@ -136,15 +138,18 @@ function homePage(fragments) {
   const { saved, root } = model;
   const counts = new Map();
   for (const object of model.objects.values()) counts.set(kindText(object), (counts.get(kindText(object)) || 0) + 1);
-  const counted = ["package", "class", "interface", "attribute", "operation", "association", "generalization", "realization",
-    "dependency", "key", "foreign key", "type", "enumeration", "schema", "data package", "diagram"];
+  const counted = [["package", "packages"], ["class", "classes"], ["interface", "interfaces"], ["attribute", "attributes"],
+    ["operation", "operations"], ["association", "associations"], ["generalization", "generalizations"],
+    ["realization", "realizations"], ["dependency", "dependencies"], ["key", "keys"], ["foreign key", "foreign keys"],
+    ["type", "types"], ["enumeration", "enumerations"], ["schema", "schemas"], ["data package", "data packages"],
+    ["diagram", "diagrams"]];
   return [
     fragments.title(root),
     fragments.chips("model", saved.dataStore ? "data store " + saved.dataStore + (saved.dataStoreVersion ? " " + saved.dataStoreVersion : "") : ""),
-    fragments.description(root),
+    fragments.foldedDescription(root),
     bulletList("Packages", root.designPackages || [], (package_) => fragments.entry(package_)),
     bulletList("Diagrams", model.ofKind("diagram"), (diagram) => fragments.link(diagram), true),
-    facts("Contents", counted.map((kind) => [kind, counts.get(kind)])),
+    facts("Contents", counted.map(([kind, several]) => [counts.get(kind) === 1 ? kind : several, counts.get(kind)])),
     (saved.origins || []).map((origin) => facts("Origin", [
       ["File", origin.filePath],
       ["Tool", [origin.toolName, origin.toolVersion, origin.toolDetail].filter(Boolean).join(" ")],
@@ -153,8 +158,20 @@ function homePage(fragments) {
       ["Imported with", [origin.bridgeName, origin.buildVersion].filter(Boolean).join(" ")],
       ["Saved", saved.modificationTime],
     ])),
+    importMessages(),
     fragments.ending(root),
   ];
+}
+
+// What the import said, when the page was given its log.
+function importMessages() {
+  const source = document.getElementById("messages");
+  if (source === null) return null;
+  return table("Messages of the import", JSON.parse(source.textContent), [
+    ["Level", ([level]) => level],
+    ["Code", ([, code]) => code],
+    ["Message", ([, , text]) => make("div", { class: "text", dir: "auto" }, shorten(text, longestTitle)), true],
+  ]);
 }
 
 function lostPage(address) {

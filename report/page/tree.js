@@ -59,7 +59,11 @@ class Tree {
     this.marked = object === undefined ? this.shortcuts.get(address) : this.reveal(object);
     if (this.marked === undefined) return;
     this.marked.setAttribute("aria-current", "page");
-    this.marked.scrollIntoView({ block: "nearest" });
+    this.showMarked();
+  }
+
+  showMarked() {
+    if (this.marked) this.marked.scrollIntoView({ block: "nearest" });
   }
 
   reveal(object) {

@@ -51,7 +51,7 @@ EXCEPTIONS = [
     (r"bridge/messages/KBI_UML2XMI\.(h|cpp)", r"repository/plugin/KYRBridgeOptionLiteral\.h"),
     # `kyr inspect` shows the objects of the reader, so it is a second client of it beside the bridge; and
     # what an import has lost is found by reading the file as it could have been read.
-    (r"host/(Inspect|LossSurvey|ArrivalCount)\w*\.(h|cpp)", r"(bridge/messages|uml|uml/read|xmi|extension)/\w+\.h"),
+    (r"host/(Inspect|LossSurvey|ArrivalCount|FailureHint)\w*\.(h|cpp)", r"(bridge/messages|uml|uml/read|xmi|extension)/\w+\.h"),
 ]
 
 # Third-party header -> the folders that may include it. What is not named here may be used anywhere.

@@ -8,7 +8,8 @@ For each file that can be imported:
 - an element that is told as lost has no object of its id in the saved model, and one that is not told at
   all has one: the ids of the model and those of the trace are compared with those of the reader;
 - what an element was absorbed in is there, by class and path;
-- model and messages are the same as without a trace, byte for byte.
+- model and messages are the same as without a trace, byte for byte;
+- `kyr inspect` counts the same for the same reasons.
 
     check_trace.py --kyr KYR FOLDER
 """
@@ -73,6 +74,15 @@ def problems_of(records, totals, elements, model, line_count):
             yield f"converted, but not saved: {element['class']} {element['id']}"
 
 
+def inspection_problems(records, inspected):
+    """What does not agree between a trace and what `kyr inspect` says of an import."""
+    reasons = collections.Counter()
+    for record in records[:-1]:
+        reasons[record["reason"]] += record.get("count", 1)
+    if inspected != {**records[-1], "reasons": dict(reasons)}:
+        yield f"the inspection counts {inspected}, the trace {records[-1]} and {dict(reasons)}"
+
+
 def check_file(kyr, path, timeout):
     """The problems of one file, or None when it cannot be imported; and its totals."""
     with tempfile.TemporaryDirectory() as folder:
@@ -94,6 +104,8 @@ def check_file(kyr, path, timeout):
         model = json.loads(traced.read_bytes())["model"]
         problems += problems_of(records[:-1], records[-1], elements, model, line_count)
         reasons = collections.Counter(record["reason"] for record in records[:-1])
+        report = json.loads(run(kyr, "inspect", path, "--json", timeout=timeout).stdout)
+        problems += inspection_problems(records, report.get("import"))
         return problems, (records[-1], reasons)
 
 

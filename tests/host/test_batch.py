@@ -3,7 +3,6 @@
 import json
 import os
 import pathlib
-import pty
 import signal
 import subprocess
 import time
@@ -131,20 +130,6 @@ class Batch(CommandTest):
 
     def test_progress_is_for_terminals(self):
         self.assertNotIn("files done", self.kyr("import", "a.xmi", "b.xmi").errors)
-        master, terminal = pty.openpty()
-        process = subprocess.Popen([KYR, "import", "a.xmi", "b.xmi"], cwd=self.folder, stderr=terminal,
-                                   stdout=subprocess.DEVNULL)
-        os.close(terminal)
-        shown = b""
-        try:
-            while block := os.read(master, 65536):
-                shown += block
-        except OSError:  # the other end is closed
-            pass
-        os.close(master)
-        self.assertEqual(process.wait(), DONE)
-        self.assertIn(b"0 of 2 files done", shown)
-        self.assertTrue(shown.endswith(b"\r\x1b[K"))
 
 
 def children_of(process):

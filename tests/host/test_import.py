@@ -246,8 +246,8 @@ class Log(CommandTest):
                                    "operations": 1, "arguments": 1, "diagrams": 0})
 
     def test_timing_tells_the_phases_in_text_and_json(self):
-        phases = ["tokenise", "objects", "link", "extension", "convert", "finish", "save", "release"]
-        lines = self.kyr("import", SMALL, "--timing").output.splitlines()[-8:]
+        phases = ["tokenise", "normalise", "objects", "link", "extension", "convert", "finish", "save", "release"]
+        lines = self.kyr("import", SMALL, "--timing").output.splitlines()[-9:]
         self.assertEqual([line.split()[-1] for line in lines], phases)
         for line in lines:
             self.assertRegex(line, r"^ *\d+\.\d{3} s  [a-z]+$")

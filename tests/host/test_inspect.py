@@ -2,6 +2,8 @@
 
 import json
 import os
+import pathlib
+import shutil
 import subprocess
 import unittest
 
@@ -24,6 +26,9 @@ REPORT = {
     "skippedTypes": [{"type": "uml:StateMachine", "count": 2, "first": "line 20, column 7"}],
     "unknownTags": [{"tag": "oddity", "count": 1, "first": "line 24, column 7"},
                     {"tag": "tool:mark", "count": 2, "first": "line 26, column 5"}],
+    "import": {"elements": 13, "converted": 9, "absorbed": 2, "lost": 2,
+               "reasons": {"initial-value": 1, "description": 1, "no-id": 1, "no-return-type": 1,
+                           "reference-not-found": 1, "type-unknown": 2, "tag-ignored": 3}},
 }
 
 TEXT = f"""\
@@ -50,6 +55,13 @@ Skipped values of xmi:type: 1
 Unknown tags: 2
   1  oddity  first at line 24, column 7
   2  tool:mark  first at line 26, column 5
+Converted:    9
+Absorbed:     2
+  1  initial-value
+  1  description
+Lost:         2
+  1  no-id
+  1  no-return-type
 """
 
 
@@ -68,6 +80,38 @@ class Report(CommandTest):
     def test_the_report_as_text(self):
         result = self.kyr("inspect", SMALL)
         self.assertEqual((result.code, result.errors, result.output), (DONE, "", TEXT))
+
+    def test_quick_leaves_out_what_an_import_would_make_of_it(self):
+        self.assertEqual(self.kyr("inspect", SMALL, "--quick").output, TEXT[:TEXT.index("Converted:")])
+        report = json.loads(self.kyr("inspect", SMALL, "--quick", "--json").output)
+        self.assertEqual(report, {key: value for key, value in REPORT.items() if key != "import"})
+
+    def test_what_an_import_would_make_of_it_is_what_its_trace_tells(self):
+        for options in ((), ("--normalize",)):
+            for sample in ("plain.xmi", "enterprise-architect.xmi", "magicdraw-diagrams.xmi"):
+                with self.subTest(sample=sample, options=options):
+                    summary = json.loads(self.kyr("import", SAMPLES / sample, "-o", "out.json", "--trace", "out.jsonl",
+                                                  "--log-format", "json", *options).output)
+                    del summary["trace"]["output"]
+                    report = json.loads(self.kyr("inspect", SAMPLES / sample, "--json", *options).output)
+                    self.assertEqual(report["import"], summary["trace"])
+                    self.assertEqual(report["import"]["elements"], report["objects"])
+        self.assertEqual(self.names(), ["out.json", "out.jsonl"])
+
+    def test_without_a_plug_in_the_file_is_read_all_the_same(self):
+        (self.folder / "bin").mkdir()
+        alone = self.folder / "bin" / "kyr"
+        alone.write_bytes(pathlib.Path(KYR).read_bytes())
+        alone.chmod(0o755)
+        (self.folder / "lib").mkdir()
+        for library in (pathlib.Path(KYR).parent.parent / "lib").glob("libkyr.so*"):
+            shutil.copy(library, self.folder / "lib")
+        result = self.kyr("inspect", SMALL, program=alone)
+        self.assertEqual((result.code, result.errors), (DONE, ""))
+        report = TEXT[:TEXT.index("Converted:")] + "No import:    [KYRHOST_F0005] The plug-in "
+        self.assertTrue(result.output.startswith(report), result.output)
+        report = json.loads(self.kyr("inspect", SMALL, "--json", program=alone).output)
+        self.assertEqual(list(report["import"]), ["failure"])
 
     def test_diagrams_are_counted_by_kind(self):
         result = self.kyr("inspect", SAMPLES / "magicdraw-diagrams.xmi")

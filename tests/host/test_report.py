@@ -10,9 +10,9 @@ class Reporting(CommandTest):
     def save(self):
         self.assertEqual(self.kyr("import", SMALL, "-q", "-o", "shop.json").code, DONE)
 
-    def model_in(self, name):
+    def model_in(self, name, element="model"):
         page = (self.folder / name).read_text(encoding="utf-8")
-        start = '<script type="application/json" id="model">'
+        start = f'<script type="application/json" id="{element}">'
         return json.loads(page.split(start)[1].split("</script>")[0])
 
     def test_the_page_stands_beside_the_model_and_holds_it(self):
@@ -35,6 +35,35 @@ class Reporting(CommandTest):
         before = (self.folder / "shop.html").read_bytes()
         self.assertEqual(self.kyr("report", "shop.json").code, DONE)
         self.assertEqual((self.folder / "shop.html").read_bytes(), before)
+
+    def test_a_file_that_is_not_imported_yet_and_a_database_are_told_as_such(self):
+        for name, text in (("shop.xmi", "\n <a/>"), ("bom.xmi", b"\xef\xbb\xbf<a/>"),
+                           ("wide.xmi", "\ufeff<a/>".encode("utf-16-be"))):
+            self.write(name, text)
+            for command in (["report", name], ["diagram", name], ["diff", name, name]):
+                with self.subTest(command=command):
+                    result = self.kyr(*command)
+                    self.assertEqual(result.errors, f"[KYRHOST_F0052] '{name}' is XML and no saved model; 'kyr import' "
+                                                    "makes one of a model file\n")
+                    self.assertEqual(result.code, 2 if command[0] == "diff" else FAILED)
+        self.kyr("import", SMALL, "-o", "shop.sqlite")
+        self.assertFails(self.kyr("report", "shop.sqlite"), FAILED, "[KYRHOST_F0053] 'shop.sqlite' is a database")
+        for name in ("empty.json", "text.json"):
+            self.write(name, "" if name == "empty.json" else "some words")
+            self.assertFails(self.kyr("report", name), FAILED, "[KYRSTD_F0131] ")
+
+    def test_messages_of_the_import_are_taken_from_its_log(self):
+        for format_ in ("text", "json"):
+            with self.subTest(format=format_):
+                self.kyr("import", SMALL, "-q", "-o", "shop.json", "--log-file", "shop.log", "--log-format", format_)
+                result = self.kyr("report", "shop.json", "--messages", "shop.log")
+                self.assertEqual((result.code, result.errors), (DONE, ""))
+                messages = self.model_in("shop.html", "messages")
+                self.assertEqual(messages[0], ["STATUS", "KBI_UML2XMI_S0017", f"Parsing file '{SMALL}'"])
+                self.assertIn("Skipping the unknown tag 'oddity'", [text.split(" : ")[-1] for _, _, text in messages])
+        self.assertFails(self.kyr("report", "shop.json", "--messages", "gone.log"), FAILED, "gone.log")
+        self.assertFails(self.kyr("report", "shop.json", "--messages", "shop.log", "-o", "shop.log"), WRONG_USAGE,
+                         "[KYRHOST_F0051] ")
 
     def test_a_page_over_its_model_is_wrong_usage(self):
         self.save()

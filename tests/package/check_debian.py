@@ -1,19 +1,32 @@
 #!/usr/bin/env python3
 """Builds the Debian packages of a build folder, and installs them with dpkg below a root of their own.
 
-The installed `kyr` imports a sample, the development package has what find_package(kyr) needs, the soname of
-the library has its version, every file belongs to one package, and when all are removed nothing is left.
+Every file belongs to one package, to root, and is writable for root alone; packages need each other in their own
+version and of the system what their binaries are linked with. The installed `kyr` imports a sample and knows no
+folder of the build, the development package has what find_package(kyr) needs, the soname of the library has its
+version, and when all are removed nothing is left. Ends with 77 where the tools of Debian are missing.
 
     check_debian.py CPACK BUILD_FOLDER SOURCE_FOLDER OUTPUT_FOLDER
 """
 
 import os
 import pathlib
+import re
+import shutil
 import subprocess
 import sys
 import tempfile
 
 PACKAGES = ("libkyr10", "kyr-plugin-uml2xmi", "kyr", "libkyr-dev")
+# What each needs: of these packages in its own version, and of the system.
+NEEDS = {
+    "libkyr10": ((), ("libc6", "libexpat1", "libsqlite3-0", "libstdc++6")),
+    "kyr-plugin-uml2xmi": (("libkyr10",), ("libc6", "libstdc++6")),
+    "kyr": (("libkyr10", "kyr-plugin-uml2xmi"), ("libc6", "libjemalloc2", "libstdc++6")),
+    "libkyr-dev": (("libkyr10",), ()),
+}
+TOOLS = ("dpkg", "dpkg-deb", "dpkg-shlibdeps", "file", "readelf", "strip")
+SKIPPED = 77
 
 
 def run(*command):
@@ -48,19 +61,34 @@ def check_contents(found):
     owners = {}
     for name, path in found.items():
         for line in run("dpkg-deb", "-c", path).splitlines():
-            entry = line.split(maxsplit=5)[5].split(" -> ")[0]
+            mode, owner, *_, entry = line.split(maxsplit=5)
+            expect(owner == "root/root", f"{entry} in {name} belongs to {owner}")
+            expect(mode[0] == "l" or mode[5] + mode[8] == "--", f"{entry} in {name} is {mode}")
+            entry = entry.split(" -> ")[0]
             if not entry.endswith("/"):
                 expect(entry not in owners, f"{entry} is in {name} and in {owners.get(entry)}")
                 owners[entry] = name
-    depends = run("dpkg-deb", "-f", found["kyr"], "Depends")
-    expect("libkyr10 (=" in depends and "kyr-plugin-uml2xmi (=" in depends, f"kyr depends on {depends}")
-    expect("libexpat1" in run("dpkg-deb", "-f", found["libkyr10"], "Depends"), "libkyr10 does not need expat")
+
+
+def check_dependencies(found):
+    version = run("dpkg-deb", "-f", found["kyr"], "Version").strip()
+    for name, (own, system) in NEEDS.items():
+        depends = run("dpkg-deb", "-f", found[name], "Depends").strip()
+        exact = {f"{other} (= {version})" for other in own}
+        others = {re.sub(r" \(.*", "", part) for part in set(depends.split(", ")) - exact if part}
+        expect(exact <= set(depends.split(", ")), f"{name} depends on {depends}")
+        expect(others >= set(system) and not others & set(PACKAGES), f"{name} depends on {depends}")
+        expect(system or not others, f"{name} depends on {depends}")
 
 
 def check_installed(root, source):
     usr = root / "usr"
     library = usr / "lib" / "libkyr.so.10"
     expect("libkyr.so.10" in run("readelf", "-d", library), "the library has no soname with its version")
+    for binary in (library, usr / "bin" / "kyr", usr / "lib" / "kyr" / "libKYROmgUml2XmiImport.so"):
+        paths = re.findall(r"R(?:UN)?PATH.*\[(.*)\]", run("readelf", "-d", binary))
+        expect(all(part.startswith("$ORIGIN") for path in paths for part in path.split(":")),
+               f"{binary} looks for libraries in {paths}")
     saved = root / "plain.json"
     output = run(usr / "bin" / "kyr", "import", source / "samples" / "plain.xmi", "-o", saved)
     expect("classes 6" in output, f"the installed kyr says {output}")
@@ -73,15 +101,20 @@ def check_installed(root, source):
 
 
 def main(cpack, build_folder, source, output):
+    as_root = [] if os.getuid() == 0 else ["fakeroot"]
+    missing = [tool for tool in (*TOOLS, *as_root) if shutil.which(tool) is None]
+    if missing:
+        print(f"skipped: not installed: {', '.join(missing)}; scripts/install-deps.sh packages installs them")
+        sys.exit(SKIPPED)
     found = build(cpack, pathlib.Path(build_folder), pathlib.Path(output).resolve())
     check_contents(found)
+    check_dependencies(found)
     with tempfile.TemporaryDirectory() as folder:
         root = pathlib.Path(folder)
         state = root / "var" / "lib" / "dpkg"
         for part in ("info", "updates", "triggers"):
             (state / part).mkdir(parents=True)
         (state / "status").touch()
-        as_root = [] if os.getuid() == 0 else ["fakeroot"]
         dpkg = [*as_root, "dpkg", f"--root={root}", "--force-script-chrootless", "--force-depends", "--log=/dev/null"]
         run(*dpkg, "--install", *(found[name] for name in PACKAGES))
         check_installed(root, pathlib.Path(source).resolve())

@@ -17,9 +17,9 @@
 
 namespace {
 
-std::string pageOf(const KYRStoreModel& model) {
+std::string pageOf(const KYRStoreModel& model, std::string_view messages = {}) {
   TextSink sink;
-  writeReport(model, sink);
+  writeReport(model, messages, sink);
   return sink.text;
 }
 
@@ -143,4 +143,12 @@ TEST(ReportWriter, NoNameEndsTheElementInWhichItStands) {
     document.Parse<rapidjson::kParseValidateEncodingFlag>(json.c_str());
     EXPECT_FALSE(document.HasParseError()) << name;
   }
+}
+
+TEST(ReportWriter, MessagesOfTheImportStandInAnElementOfTheirOwn) {
+  const std::string start = "<script type=\"application/json\" id=\"messages\">";
+  const auto model = modelNamed("Shop");
+  EXPECT_EQ(countOf(pageOf(*model), "id=\"messages\""), 0U);
+  const std::string page = pageOf(*model, R"([["WARNING","X_W0001","a </script>"]])");
+  EXPECT_EQ(contentOf(page, start), R"([["WARNING","X_W0001","a \u003c/script>"]])");
 }

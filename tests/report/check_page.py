@@ -163,12 +163,16 @@ def make_pages(kyr, source, folder):
                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 
     for name, sample in (("wine", "magicdraw-diagrams.xmi"), ("plain", "plain.xmi"), ("database", "magicdraw-database.xmi")):
-        run("import", source / "samples" / sample, "-q", "-o", f"{name}.json")
+        run("import", source / "samples" / sample, "-q", "-o", f"{name}.json", "--log-file", f"{name}.log")
     hostile_model(folder / "hostile.json")
     large_model(folder / "large.json")
     deep_model(folder / "deep.json")
-    for name in ("wine", "plain", "database", "hostile", "large", "deep"):
+    with open(folder / "hostile.log", "w", encoding="utf-8") as log:
+        log.write(f"WARNING {HOSTILE} {HOSTILE}\n{LONG}\n{TURNED}\n")
+    for name in ("wine", "database", "large", "deep"):
         run("report", f"{name}.json")
+    for name in ("plain", "hostile"):
+        run("report", f"{name}.json", "--messages", f"{name}.log")
 
 
 def main(kyr, source, modules):

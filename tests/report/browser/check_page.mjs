@@ -56,6 +56,16 @@ check("the first page tells what the model is", async (page) => {
   }
 });
 
+check("the first page tells what the import said", async (page) => {
+  await open(page, "plain");
+  const part = page.locator("main section").filter({ hasText: "Messages of the import" });
+  assert.match(await part.innerText(), /Level\s+Code\s+Message\s+STATUS\s+KBI_UML2XMI_S0017\s+Parsing file/);
+  await assertAccessible(page, "the messages");
+  await open(page, "wine");
+  await arriveAt(page, "Wine estate");
+  assert.ok(!(await page.locator("main").innerText()).includes("Messages of the import"));
+});
+
 check("a search is worked by keys alone", async (page) => {
   await open(page, "wine");
   await page.keyboard.press("/");
@@ -155,7 +165,7 @@ check("keys, schemas and types have their places", async (page) => {
   assert.match(await page.locator("main").innerText(), /Keys[^]*primary/);
   assert.match(await page.locator("main").innerText(), /\bPK\b/);
   await open(page, "wine", "types");
-  assert.match(await page.locator("main").innerText(), /Enumerations[^]*Other types/);
+  assert.match(await page.locator("main").innerText(), /Enumerations[^]*Other types[^]*Base types/);
   const type = page.locator("main td a").first();
   const typeName = await type.innerText();
   await type.click();
@@ -203,6 +213,41 @@ check("paper gets the page without bar and tree", async (page) => {
   assert.ok(await page.locator("#tree").isHidden());
   assert.equal(await page.evaluate(() => getComputedStyle(document.body).backgroundColor), "rgb(255, 255, 255)");
 });
+
+check("nothing runs over the edge of the paper, also with long names", async (page) => {
+  const long = "aNameOfManyWordsThatNobodyWouldWriteInOneGo";
+  for (const [name, hash] of [["wine", "class/Cellar/Vessel"], ["wine", "class/Cellar/Wine"], ["database", "types"]]) {
+    await open(page, name, hash);
+    await page.emulateMedia({ media: "print" });
+    await page.setViewportSize({ width: 718, height: 1000 });
+    await page.evaluate((text) => {
+      for (const cell of document.querySelectorAll("td bdi")) cell.textContent = text;
+    }, long);
+    const over = await page.evaluate(() => document.documentElement.scrollWidth - document.documentElement.clientWidth);
+    assert.equal(over, 0, hash);
+  }
+}, { viewport: { width: 718, height: 1000 } });
+
+check("a table fits into the usual window, and the description is not cut", async (page) => {
+  await open(page, "wine", "class/Cellar/Vessel");
+  const cut = await page.locator(".wide").evaluateAll((all) => all.filter((one) => one.scrollWidth > one.clientWidth).length);
+  assert.equal(cut, 0);
+});
+
+check("a narrow window has the tree behind a button", async (page) => {
+  await open(page, "wine", "class/Cellar/Vessel");
+  const button = page.locator("#contents");
+  assert.ok(await page.locator("#tree").isHidden());
+  assert.equal(await button.getAttribute("aria-expanded"), "false");
+  await button.click();
+  assert.equal(await button.getAttribute("aria-expanded"), "true");
+  await assertAccessible(page, "the open tree");
+  await page.locator("#tree").getByRole("link", { name: "Barrel" }).click();
+  await arriveAt(page, "Barrel");
+  await eventually(() => page.locator("#tree").isHidden(), (hidden) => hidden, "a closed tree");
+  const over = await page.evaluate(() => document.documentElement.scrollWidth - document.documentElement.clientWidth);
+  assert.equal(over, 0);
+}, { viewport: { width: 380, height: 800 } });
 
 check("light and dark follow the system and the button", async (page) => {
   const ground = () => page.evaluate(() => getComputedStyle(document.body).backgroundColor);
