@@ -60,7 +60,8 @@ coverage: deps-build deps-test deps-coverage ## Which lines and branches the tes
 	cmake --build --preset coverage --parallel $(JOBS)
 	find build/coverage -name '*.gcda' -delete
 	ctest --preset coverage
-	gcovr --config cmake/gcovr.cfg build/coverage
+	mkdir -p build/coverage/report
+	gcovr -j $(JOBS) build/coverage
 
 lint: deps-build deps-test deps-lint ## Check format, include direction, headers and clang-tidy
 	scripts/lint.sh
