@@ -51,8 +51,9 @@ function(kyr_tests name)
   target_include_directories(${name} SYSTEM PRIVATE ${RAPIDJSON_INCLUDE_DIR} ${CLI11_INCLUDE_DIR})
   target_compile_definitions(${name} PRIVATE KYR_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
   target_compile_options(${name} PRIVATE ${KYR_TEST_COMPILE_OPTIONS})
-  # Starting a program takes a sanitizer longer than most tests, so there each program is one test.
-  if(KYR_SANITIZE)
+  # Starting a program takes a sanitizer, and writing its counts gcov, longer than most tests, so there each
+  # program is one test.
+  if(KYR_SANITIZE OR KYR_COVERAGE)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES TIMEOUT 1200)
   else()

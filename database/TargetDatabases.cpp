@@ -9,7 +9,9 @@ using Stores = KYRDataTypeConstants;
 
 targetDatabaseInfo::targetDatabaseInfo(const char* dataStore, int version, const char* nameOfEA,
                                        const char* nameOfMagicDraw)
-    : KYRDataStoreVersion(dataStore, version, 0, 0), eaName(nameOfEA), magicDrawName(nameOfMagicDraw) {}
+    : KYRDataStoreVersion(KYRString::borrowed(dataStore), version, 0, 0),
+      eaName(nameOfEA),
+      magicDrawName(nameOfMagicDraw) {}
 
 const targetDatabaseInfo targetDatabases[] = {
     {Stores::DATASTORE_DB2_UDB, 1, "DB2", "DB2"},

@@ -7,7 +7,7 @@
 /// One system as the tools name it. A name is empty where the tool has none for it.
 class targetDatabaseInfo : public KYRDataStoreVersion {
  public:
-  /// `eaName` and `magicDrawName` must outlive the object.
+  /// The texts must outlive the object.
   targetDatabaseInfo(const char* dataStore, int version, const char* eaName, const char* magicDrawName);
 
   const char* eaName;         // as Enterprise Architect names the system

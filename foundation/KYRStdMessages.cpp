@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <vector>
 
 #include "foundation/KYRStringArray.h"
 
@@ -63,10 +64,9 @@ const KYRStdMessages::Message<1> KYRStdMessages::FILE_HAS_CHANGED(
 const KYRStdMessages::PositionText KYRStdMessages::XML_POSITION;
 
 KYRStdMessages::Base::Base(int number, const char* levelName, const char* text)
-    : KYRMessageLiteral(number, KYRString(text), KYRString(levelName)) {
-  code = buildCode(KYRString(catalogueName), KYRString(levelName), number);
-  identifier_ = code;
-  rows().push_back({number, this});
+    : KYRMessageLiteral(number, text, levelName), row_{number, this, nullptr} {
+  setCode(catalogueName, levelName);
+  enter(row_);
 }
 
 KYRStdMessages::Base::~Base() = default;
@@ -91,8 +91,9 @@ void KYRStdMessages::Base::raise(const KYRString& text) const {
 }
 
 KYRStdMessages::PositionText::PositionText()
-    : KYRParameterizedTextLiteral(KYRString("KYRSTD_POSITION"), KYRString("line {0}, column {1}")) {
-  rows().push_back({std::numeric_limits<int>::max(), this});  // behind the messages
+    : KYRParameterizedTextLiteral("KYRSTD_POSITION", "line {0}, column {1}"),
+      row_{std::numeric_limits<int>::max(), this, nullptr} {  // behind the messages
+  enter(row_);
 }
 
 KYRStdMessages::PositionText::~PositionText() = default;
@@ -107,16 +108,19 @@ KYRString KYRStdMessages::PositionText::toString(const KYRString& line, const KY
 
 KYRStdMessages::KYRStdMessages() : KYRTextLiteralsCollection(KYRString("KYRStd"), KYRString(catalogueName)) {
   // The files of the library enter their rows in an order that nobody promises.
-  std::vector<Row> sorted = rows();
+  std::vector<const Row*> sorted;
+  for (const Row* row = lastEntered; row != nullptr; row = row->next) sorted.push_back(row);
   std::sort(sorted.begin(), sorted.end(),
-            [](const Row& first, const Row& second) { return first.number < second.number; });
-  for (const Row& row : sorted) add(row.literal);
+            [](const Row* first, const Row* second) { return first->number < second->number; });
+  for (const Row* row : sorted) add(row->literal);
   init();
 }
 
-std::vector<KYRStdMessages::Row>& KYRStdMessages::rows() {
-  static std::vector<Row> list;
-  return list;
+constinit KYRStdMessages::Row* KYRStdMessages::lastEntered = nullptr;
+
+void KYRStdMessages::enter(Row& row) noexcept {
+  row.next = lastEntered;
+  lastEntered = &row;
 }
 
 const KYRStdMessages& KYRStdMessages::initLiterals() {

@@ -9,7 +9,6 @@
 
 #include <concepts>
 #include <initializer_list>
-#include <vector>
 
 #include "foundation/Export.h"
 #include "foundation/KYRException.h"
@@ -17,6 +16,13 @@
 #include "foundation/KYRTextLiteral.h"
 
 class KYR_EXPORT KYRStdMessages : public KYRTextLiteralsCollection {
+  /// A link of the chain of all rows, which is a part of the row itself.
+  struct Row {
+    int number;
+    KYRTextLiteral* literal;
+    Row* next;
+  };
+
  public:
   /// What all messages have in common; its identifier in the catalogue is its code.
   class KYR_EXPORT Base : public KYRMessageLiteral {
@@ -29,6 +35,9 @@ class KYR_EXPORT KYRStdMessages : public KYRTextLiteralsCollection {
     KYRString prefixCode(const KYRString& text) const;
     void send(KYRLog& log, const KYRString& text) const;
     [[noreturn]] void raise(const KYRString& text) const;
+
+   private:
+    Row row_;
   };
 
   /// A message with `argumentCount` arguments, each one a KYRString.
@@ -66,6 +75,9 @@ class KYR_EXPORT KYRStdMessages : public KYRTextLiteralsCollection {
     PositionText();
     ~PositionText() override;
     KYRString toString(const KYRString& line, const KYRString& column) const;
+
+   private:
+    Row row_;
   };
 
   // Files. The first argument is the path.
@@ -101,9 +113,6 @@ class KYR_EXPORT KYRStdMessages : public KYRTextLiteralsCollection {
 
  private:
   KYRStdMessages();
-  struct Row {
-    int number;
-    KYRTextLiteral* literal;
-  };
-  static std::vector<Row>& rows();
+  static void enter(Row& row) noexcept;
+  static Row* lastEntered;
 };

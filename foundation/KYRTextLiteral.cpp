@@ -1,6 +1,11 @@
 // Text literals, the substitution of their placeholders, and the catalogue that finds them.
 #include "foundation/KYRTextLiteral.h"
 
+#include <cassert>
+#include <charconv>
+#include <cstring>
+#include <limits>
+
 #include "foundation/KYRDOM.h"
 #include "foundation/KYRLog.h"
 #include "foundation/KYRVector.h"
@@ -24,8 +29,8 @@ std::size_t placeholderLength(std::string_view text) noexcept {
 
 }  // namespace
 
-KYRTextLiteral::KYRTextLiteral(const KYRString& identifier, const KYRString& text)
-    : identifier_(identifier), text_(text) {}
+KYRTextLiteral::KYRTextLiteral(const char* identifier, const char* text)
+    : identifier_(KYRString::borrowed(identifier)), text_(KYRString::borrowed(text)) {}
 
 KYRTextLiteral::~KYRTextLiteral() = default;
 
@@ -57,18 +62,35 @@ KYRString KYRParameterizedTextLiteral::createParameterizedText(const KYRStringAr
   return result;
 }
 
-KYRMessageLiteral::KYRMessageLiteral(int number, const KYRString& text, const KYRString& levelName)
-    : KYRParameterizedTextLiteral(KYRString::getEmptyString(), text),
+KYRMessageLiteral::KYRMessageLiteral(int number, const char* text, const char* levelName)
+    : KYRParameterizedTextLiteral("", text),
       number_(number),
-      level_(KYRLogLevel::fromName(levelName)) {}
+      level_(KYRLogLevel::fromName(KYRString::borrowed(levelName))),
+      codeCharacters_{} {}
 
 KYRMessageLiteral::~KYRMessageLiteral() = default;
 
-KYRString KYRMessageLiteral::buildCode(const KYRString& catalogueName, const KYRString& levelName,
-                                       int number) {
-  const KYRString digits(number);
-  // A number of more than four digits gives a negative count and so all four zeros.
-  return catalogueName + "_" + levelName.left(1) + KYRString("0000").left(4U - digits.getLength()) + digits;
+void KYRMessageLiteral::setCode(const char* catalogueName, const char* levelName) {
+  char digits[std::numeric_limits<int>::digits10 + 2];  // one more digit and the sign
+  const auto result = std::to_chars(digits, digits + sizeof digits, number_);
+  const auto digitCount = static_cast<std::size_t>(result.ptr - digits);
+  // A number of more than four digits has all four zeros before it.
+  const std::size_t zeroCount = digitCount <= 4 ? 4 - digitCount : 4;
+  std::size_t length = 0;
+  const auto append = [this, &length](std::string_view part) {
+    assert(length + part.size() < codeSize);
+    part = part.substr(0, codeSize - 1 - length);
+    std::memcpy(codeCharacters_ + length, part.data(), part.size());
+    length += part.size();
+  };
+  append(catalogueName);
+  append("_");
+  append(std::string_view(levelName).substr(0, 1));
+  append(std::string_view("0000").substr(0, zeroCount));
+  append({digits, digitCount});
+  codeCharacters_[length] = '\0';
+  code = KYRString::borrowed({codeCharacters_, length});
+  identifier_.borrow(code);
 }
 
 KYRTextLiteralsCollection::KYRTextLiteralsCollection(const KYRString& libraryName,

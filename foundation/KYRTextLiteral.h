@@ -1,5 +1,8 @@
 // Text literals and their catalogues. Every text that a user sees is a literal with a fixed
 // identifier; code names the literal and never writes the text inline.
+//
+// Literals are static objects, made while a library is loaded, where nobody can be told that there is no
+// memory. So they borrow their texts, which must be string literals too, and allocate nothing.
 #pragma once
 
 #include "foundation/KYRHashtable.h"
@@ -12,7 +15,8 @@ class KYRVector;
 /// An identifier and a text.
 class KYR_EXPORT KYRTextLiteral {
  public:
-  KYRTextLiteral(const KYRString& identifier, const KYRString& text);
+  /// Both are borrowed: their characters must outlive the literal, as those of string literals do.
+  KYRTextLiteral(const char* identifier, const char* text);
   KYRTextLiteral(const KYRTextLiteral&) = delete;
   KYRTextLiteral& operator=(const KYRTextLiteral&) = delete;
   virtual ~KYRTextLiteral();
@@ -41,22 +45,25 @@ class KYR_EXPORT KYRParameterizedTextLiteral : public KYRTextLiteral {
 /// A numbered message. Its identifier in a catalogue is set by the catalogue's derived classes.
 class KYR_EXPORT KYRMessageLiteral : public KYRParameterizedTextLiteral {
  public:
-  /// `levelName` is "FATAL", "WARNING" or "STATUS".
-  KYRMessageLiteral(int number, const KYRString& text, const KYRString& levelName);
+  /// `levelName` is "FATAL", "WARNING" or "STATUS"; `text` is borrowed.
+  KYRMessageLiteral(int number, const char* text, const char* levelName);
   ~KYRMessageLiteral() override;
   int getNumber() const noexcept { return number_; }
   int getLevel() const noexcept { return level_; }
   const KYRString& getCode() const noexcept { return code; }
 
  protected:
-  /// catalogue name, "_", first letter of the level, and the number in four digits.
-  static KYRString buildCode(const KYRString& catalogueName, const KYRString& levelName, int number);
+  /// Makes code and identifier: catalogue name, "_", first letter of the level, and the number in four
+  /// digits.
+  void setCode(const char* catalogueName, const char* levelName);
 
   KYRString code;
 
  private:
+  static constexpr std::size_t codeSize = 32;
   int number_;
   int level_;
+  char codeCharacters_[codeSize];  // what the code borrows
 };
 
 /// A catalogue: literals by identifier. It borrows them; they are static objects.

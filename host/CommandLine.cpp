@@ -35,6 +35,7 @@ struct Tools {
 };
 
 int perform(const CommandRequest& request, Tools& tools) {
+  XmlLimits::set(request.limits);
   if (!request.encoding.empty()) forceXmlEncoding(request.encoding.c_str());
   switch (request.kind) {
     case Kind::import:

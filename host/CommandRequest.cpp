@@ -2,6 +2,7 @@
 #include "host/CommandRequest.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <sstream>
 
 #include "BuildTime.h"
@@ -58,7 +59,9 @@ class Definition {
   void defineNormalize();
   static void addNormalize(CLI::App& command, NormalizeChoice& choice);
   static CLI::Option& addPlugin(CLI::App& command, std::string& path);
-  void addEncoding(CLI::App& command);
+  void addReading(CLI::App& command);
+  static void addLimit(CLI::App& command, const char* name, std::size_t& value, const HostText<1>& help,
+                       const char* unit);
 
   CommandRequest& request_;
   CLI::App app_;
@@ -107,7 +110,7 @@ void Definition::defineImport() {
       ->type_name("TIME")
       ->check(CLI::Validator(checkTime, ""));
   addNormalize(command, settings.normalize);
-  addEncoding(command);
+  addReading(command);
   command.add_flag("-q,--quiet", settings.isQuiet, textOf(IMPORT_HELP_QUIET));
   command.add_flag("--timing", settings.withTiming, textOf(IMPORT_HELP_TIMING));
   defineLogFormat(command);
@@ -157,7 +160,7 @@ void Definition::defineInspect() {
   command.add_flag("--objects", settings.listsObjects, textOf(INSPECT_HELP_OBJECTS));
   command.add_flag("--quick", settings.isQuick, textOf(INSPECT_HELP_QUICK));
   addNormalize(command, settings.normalize);
-  addEncoding(command);
+  addReading(command);
 }
 
 void Definition::defineDiagram() {
@@ -198,7 +201,7 @@ void Definition::defineNormalize() {
       ->required()
       ->type_name("PATH");
   command.add_flag("--all", settings.isAll, textOf(NORMALIZE_HELP_ALL));
-  addEncoding(command);
+  addReading(command);
 }
 
 // A flag, so that a file name behind it is not taken for its value.
@@ -212,8 +215,24 @@ CLI::Option& Definition::addPlugin(CLI::App& command, std::string& path) {
   return *command.add_option("--plugin", path, textOf(KYRHostTexts::HELP_PLUGIN))->type_name("PATH");
 }
 
-void Definition::addEncoding(CLI::App& command) {
-  command.add_option("--encoding", request_.encoding, textOf(KYRHostTexts::HELP_ENCODING))->type_name("NAME");
+// What tells how a file of the outer world is read.
+void Definition::addReading(CLI::App& command) {
+  using namespace KYRHostTexts;
+  XmlLimits& limits = request_.limits;
+  command.add_option("--encoding", request_.encoding, textOf(HELP_ENCODING))->type_name("NAME");
+  addLimit(command, "--max-depth", limits.maxDepth, HELP_MAX_DEPTH, "N");
+  addLimit(command, "--max-attribute", limits.maxTextBytes, HELP_MAX_ATTRIBUTE, "BYTES");
+  addLimit(command, "--max-attribute-count", limits.maxAttributes, HELP_MAX_ATTRIBUTE_COUNT, "N");
+  addLimit(command, "--max-name", limits.maxNameBytes, HELP_MAX_NAME, "BYTES");
+}
+
+void Definition::addLimit(CLI::App& command, const char* name, std::size_t& value, const HostText<1>& help,
+                          const char* unit) {
+  constexpr std::size_t most = 0xFFFFFFFEU;  // of the texts and numbers that hold what is read
+  const KYRString usual(std::to_string(value).c_str());
+  command.add_option(name, value, std::string(help.toString(usual).view()))
+      ->type_name(unit)
+      ->check(CLI::Range(std::size_t{1}, most).description(""));
 }
 
 void Definition::read(int argumentCount, const char* const* arguments) {
@@ -235,6 +254,8 @@ void Definition::read(int argumentCount, const char* const* arguments) {
     }
     return;
   }
+  // A tag must be able to hold what its attributes may.
+  request_.limits.maxMarkupBytes = std::max(request_.limits.maxMarkupBytes, request_.limits.maxTextBytes * 2);
   using Kind = CommandRequest::Kind;
   if (!request_.import.files.empty()) request_.import.file = request_.import.files.front();
   request_.kind = app_.got_subcommand("import")      ? Kind::import

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "foundation/xml/XmlLimits.h"
 #include "host/DiagramCommand.h"
 #include "host/DiffCommand.h"
 #include "host/ImportCommand.h"
@@ -33,6 +34,7 @@ struct CommandRequest {
   DiffCommand::Settings diff;
   ReportCommand::Settings report;
   std::string encoding;  // empty: as each file says
+  XmlLimits limits;
   std::string text;
   std::string command;  // "kyr", "kyr import"
 };

@@ -15,8 +15,14 @@ namespace HostLiterals {
 /// Known to users by the start of every code.
 constexpr const char* catalogueName = "KYRHOST";
 
-/// Notes the literal for the catalogue that is built at the first use of a text.
-void enter(KYRTextLiteral* literal);
+/// A link of the chain of all literals, which is a part of the literal itself.
+struct Link {
+  KYRTextLiteral* literal;
+  const Link* next;
+};
+
+/// Puts the literal at the head of the chain, of which the catalogue is built at the first use of a text.
+void enter(Link& link) noexcept;
 
 template <std::same_as<KYRString>... Argument>
 KYRStringArray arrayOf(const Argument&... arguments) {
@@ -32,13 +38,16 @@ template <unsigned int argumentCount>
 class HostText final : public KYRParameterizedTextLiteral {
  public:
   HostText(const char* identifier, const char* text) : KYRParameterizedTextLiteral(identifier, text) {
-    HostLiterals::enter(this);
+    HostLiterals::enter(link_);
   }
   template <std::same_as<KYRString>... Argument>
   KYRString toString(const Argument&... arguments) const {
     static_assert(sizeof...(Argument) == argumentCount);
     return createParameterizedText(HostLiterals::arrayOf(arguments...));
   }
+
+ private:
+  HostLiterals::Link link_{this, nullptr};
 };
 
 /// A message with `argumentCount` arguments. Its identifier is its code.
@@ -47,8 +56,8 @@ class HostMessage final : public KYRMessageLiteral {
  public:
   HostMessage(int number, const char* levelName, const char* text)
       : KYRMessageLiteral(number, text, levelName) {
-    identifier_ = code = buildCode(HostLiterals::catalogueName, levelName, number);
-    HostLiterals::enter(this);
+    setCode(HostLiterals::catalogueName, levelName);
+    HostLiterals::enter(link_);
   }
   /// The finished text, without the code.
   template <std::same_as<KYRString>... Argument>
@@ -71,4 +80,7 @@ class HostMessage final : public KYRMessageLiteral {
   [[noreturn]] void throwException(const Argument&... arguments) const {
     throw KYRException(getMessage(arguments...), buildStackTrace());
   }
+
+ private:
+  HostLiterals::Link link_{this, nullptr};
 };

@@ -29,6 +29,13 @@ const HostText<0> HELP_VERSION("HELP_VERSION", "Print the version and end");
 const HostText<0> HELP_HELP("HELP_HELP", "Print this help and end");
 const HostText<0> HELP_ENCODING(
     "HELP_ENCODING", "Read the file in this encoding, such as windows-1252, whatever it says of itself");
+const HostText<1> HELP_MAX_DEPTH("HELP_MAX_DEPTH", "Refuse files that nest elements deeper than so ({0})");
+const HostText<1> HELP_MAX_ATTRIBUTE("HELP_MAX_ATTRIBUTE",
+                                     "Refuse files with an attribute value or a text longer than so ({0})");
+const HostText<1> HELP_MAX_ATTRIBUTE_COUNT("HELP_MAX_ATTRIBUTE_COUNT",
+                                           "Refuse files with more attributes on one element than so ({0})");
+const HostText<1> HELP_MAX_NAME("HELP_MAX_NAME",
+                                "Refuse files with a name of an element or attribute longer than so ({0})");
 const HostText<0> HELP_PLUGIN("HELP_PLUGIN", "Use the plug-in in this file instead of the installed one");
 
 const HostText<0> IMPORT_HELP(

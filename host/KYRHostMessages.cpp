@@ -1,6 +1,7 @@
 // The texts of the command's own messages, and the catalogue that they enter when they are made.
 #include "host/KYRHostMessages.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace {
@@ -9,14 +10,14 @@ const char fatal[] = "FATAL";
 const char warning[] = "WARNING";
 const char status[] = "STATUS";
 
-std::vector<KYRTextLiteral*>& entered() {
-  static std::vector<KYRTextLiteral*> literals;
-  return literals;
-}
+constinit const HostLiterals::Link* lastEntered = nullptr;
 
 }  // namespace
 
-void HostLiterals::enter(KYRTextLiteral* literal) { entered().push_back(literal); }
+void HostLiterals::enter(Link& link) noexcept {
+  link.next = lastEntered;
+  lastEntered = &link;
+}
 
 const HostMessage<2> KYRHostMessages::WRONG_USAGE(1, fatal, "{0}. '{1} --help' tells more.");
 const HostMessage<1> KYRHostMessages::OUTPUT_IS_INPUT(
@@ -97,7 +98,11 @@ const HostMessage<0> KYRHostMessages::TRACE_OF_ONE_FILE(
     61, fatal, "'--trace' tells of the import of one file; several are named");
 
 KYRHostMessages::KYRHostMessages() : KYRTextLiteralsCollection("kyr", HostLiterals::catalogueName) {
-  for (KYRTextLiteral* literal : entered()) add(literal);
+  std::vector<KYRTextLiteral*> literals;
+  for (const HostLiterals::Link* link = lastEntered; link != nullptr; link = link->next) {
+    literals.push_back(link->literal);
+  }
+  std::for_each(literals.rbegin(), literals.rend(), [this](KYRTextLiteral* literal) { add(literal); });
   init();
 }
 

@@ -15,6 +15,10 @@ extern const HostText<0> HELP_COMMAND;
 extern const HostText<0> HELP_VERSION;
 extern const HostText<0> HELP_HELP;
 extern const HostText<0> HELP_ENCODING;
+extern const HostText<1> HELP_MAX_DEPTH;
+extern const HostText<1> HELP_MAX_ATTRIBUTE;
+extern const HostText<1> HELP_MAX_ATTRIBUTE_COUNT;
+extern const HostText<1> HELP_MAX_NAME;
 extern const HostText<0> HELP_PLUGIN;
 
 extern const HostText<0> IMPORT_HELP;

@@ -58,7 +58,9 @@ TerminalText::Character TerminalText::take(std::string_view& rest) {
 bool TerminalText::isObeyed(char32_t code) noexcept {
   const bool isControl = code < 0x20 || (code >= 0x7F && code < 0xA0);
   const bool isLineBreak = code == 0x2028 || code == 0x2029;
-  const bool turnsDirection = (code >= 0x202A && code <= 0x202E) || (code >= 0x2066 && code <= 0x2069);
+  const bool isMark = code == 0x061C || code == 0x200E || code == 0x200F;
+  const bool turnsDirection =
+      isMark || (code >= 0x202A && code <= 0x202E) || (code >= 0x2066 && code <= 0x2069);
   return isControl || isLineBreak || turnsDirection;
 }
 

@@ -2,7 +2,7 @@
 # Installs the Debian 12 packages that the named groups of work need; without a name, "build" and
 # "test". Only what is missing is installed, so a second run asks no network and takes no time.
 #
-#   scripts/install-deps.sh [build|test|browser|lint|bench|packages|all]...
+#   scripts/install-deps.sh [build|test|browser|lint|coverage|soak|bench|packages|all]...
 #
 # "browser" is for the test that opens pages of `kyr report`. It is a large download, so nothing asks for it
 # by itself: without it that test is skipped.
@@ -12,6 +12,8 @@ declare -A packages=(
   [build]="make g++ cmake ninja-build ccache pkg-config libexpat1-dev libxml2-dev libsqlite3-dev rapidjson-dev libcli11-dev libjemalloc-dev python3"
   [test]="libgtest-dev libgmock-dev python3 python3-jsonschema sqlite3"
   [lint]="clang clang-format clang-tidy python3"
+  [coverage]="gcovr"
+  [soak]="valgrind"
   [bench]="python3"
   [browser]="chromium nodejs npm"
   [packages]="dpkg-dev fakeroot file python3"
@@ -19,12 +21,12 @@ declare -A packages=(
 
 groups=("$@")
 [ ${#groups[@]} -gt 0 ] || groups=(build test)
-[ "${groups[*]}" != all ] || groups=(build test browser lint bench packages)
+[ "${groups[*]}" != all ] || groups=(build test browser lint coverage soak bench packages)
 
 wanted=()
 for group in "${groups[@]}"; do
   if [ -z "${packages[$group]:-}" ]; then
-    echo "install-deps: there is no group '$group'; the groups are build, test, browser, lint, bench, packages and all" >&2
+    echo "install-deps: there is no group '$group'; the groups are build, test, browser, lint, coverage, soak, bench, packages and all" >&2
     exit 2
   fi
   read -ra names <<< "${packages[$group]}"

@@ -47,7 +47,7 @@ void ImportTrace::tellElements(KYROmgUml2XmiImportBridge& bridge) {
   const ArrivedObjects arrived(bridge, elements);
   const VisitedElements visited(bridge, elements);
   const AbsorbedElements absorbed(bridge, elements, arrived, visited);
-  const LostElements lost(bridge, elements, notes_, arrived, visited, absorbed);
+  const LostElements lost(elements, notes_, arrived, visited, absorbed);
   KYRTraceTotals totals;
   totals.read = elements.getCount();
   for (unsigned int i = 0; i < elements.getSlotCount(); ++i) {

@@ -1,7 +1,6 @@
 // One operation for each class that the conversion knows, and one for where an element stands.
 #include "trace/LostElements.h"
 
-#include "bridge/state/KYROmgUml2XmiImportBridge.h"
 #include "trace/AbsorbedElements.h"
 #include "trace/ArrivedObjects.h"
 #include "trace/ReadNotes.h"
@@ -41,15 +40,10 @@ const Borrowed<UMLProperty, KYROrderedVector>& endsOf(const UMLAssociation& asso
 
 }  // namespace
 
-LostElements::LostElements(const KYROmgUml2XmiImportBridge& bridge, const UMLObjectTable& elements,
-                           const ReadNotes& notes, const ArrivedObjects& arrived,
-                           const VisitedElements& visited, const AbsorbedElements& absorbed)
-    : bridge_(bridge),
-      elements_(elements),
-      notes_(notes),
-      arrived_(arrived),
-      visited_(visited),
-      absorbed_(absorbed) {}
+LostElements::LostElements(const UMLObjectTable& elements, const ReadNotes& notes,
+                           const ArrivedObjects& arrived, const VisitedElements& visited,
+                           const AbsorbedElements& absorbed)
+    : elements_(elements), notes_(notes), arrived_(arrived), visited_(visited), absorbed_(absorbed) {}
 
 KYRString LostElements::describe(const UMLElement& element) {
   KYRString text(UMLMetamodel::classRows[static_cast<unsigned int>(element.getKind())].name);

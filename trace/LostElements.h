@@ -10,7 +10,6 @@
 
 class AbsorbedElements;
 class ArrivedObjects;
-class KYROmgUml2XmiImportBridge;
 class ReadNotes;
 class UMLObjectTable;
 class VisitedElements;
@@ -23,9 +22,8 @@ class LostElements {
     KYRString missingId;  // an id that the element refers to and nothing has
   };
 
-  LostElements(const KYROmgUml2XmiImportBridge& bridge, const UMLObjectTable& elements,
-               const ReadNotes& notes, const ArrivedObjects& arrived, const VisitedElements& visited,
-               const AbsorbedElements& absorbed);
+  LostElements(const UMLObjectTable& elements, const ReadNotes& notes, const ArrivedObjects& arrived,
+               const VisitedElements& visited, const AbsorbedElements& absorbed);
 
   Loss explain(const UMLElement& element) const;
   /// "UMLClass 'Order'", by its name, else its id.
@@ -50,7 +48,6 @@ class LostElements {
   Loss explainAssociationEnd(const UMLProperty& end) const;
   bool isThere(const UMLElement* element) const;
 
-  const KYROmgUml2XmiImportBridge& bridge_;
   const UMLObjectTable& elements_;
   const ReadNotes& notes_;
   const ArrivedObjects& arrived_;

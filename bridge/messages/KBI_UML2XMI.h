@@ -18,7 +18,7 @@ class KYR_EXPORT KBI_UML2XMI final : public KYRTextLiteralsCollection {
   /// A plain text with an identifier.
   class KYR_EXPORT TextInstance : public KYRParameterizedTextLiteral {
    public:
-    TextInstance(const KYRString& identifier, const KYRString& text);
+    TextInstance(const char* identifier, const char* text);
     ~TextInstance() override;
     const KYRString& toString() const;
   };
@@ -27,8 +27,8 @@ class KYR_EXPORT KBI_UML2XMI final : public KYRTextLiteralsCollection {
   class KYR_EXPORT ParameterInstance : public KYRBridgeOptionLiteral {
    public:
     /// `enumeration` lists the values that a host may offer, null for free text. Both literals are borrowed.
-    ParameterInstance(const KYRString& identifier, const KYRString& displayName, OptionType type,
-                      const KYRString& description, const KYRTextLiteral* enumeration,
+    ParameterInstance(const char* identifier, const char* displayName, OptionType type,
+                      const char* description, const KYRTextLiteral* enumeration,
                       const KYRTextLiteral* defaultValue);
     ~ParameterInstance() override;
   };
@@ -36,7 +36,7 @@ class KYR_EXPORT KBI_UML2XMI final : public KYRTextLiteralsCollection {
   /// A message without arguments.
   class KYR_EXPORT MessageInstance : public KYRMessageLiteral {
    public:
-    MessageInstance(int number, const KYRString& text, const KYRString& levelName);
+    MessageInstance(int number, const char* text, const char* levelName);
     ~MessageInstance() override;
     KYRString toString() const;
     /// The code in square brackets, a blank, and the text.
@@ -50,7 +50,7 @@ class KYR_EXPORT KBI_UML2XMI final : public KYRTextLiteralsCollection {
   /// A message with one argument.
   class KYR_EXPORT MessageInstance_String : public KYRMessageLiteral {
    public:
-    MessageInstance_String(int number, const KYRString& text, const KYRString& levelName);
+    MessageInstance_String(int number, const char* text, const char* levelName);
     ~MessageInstance_String() override;
     KYRString toString(const KYRString& first) const;
     KYRString getMessage(const KYRString& first) const;
@@ -61,7 +61,7 @@ class KYR_EXPORT KBI_UML2XMI final : public KYRTextLiteralsCollection {
   /// A message with two arguments.
   class KYR_EXPORT MessageInstance_String_String : public KYRMessageLiteral {
    public:
-    MessageInstance_String_String(int number, const KYRString& text, const KYRString& levelName);
+    MessageInstance_String_String(int number, const char* text, const char* levelName);
     ~MessageInstance_String_String() override;
     KYRString toString(const KYRString& first, const KYRString& second) const;
     KYRString getMessage(const KYRString& first, const KYRString& second) const;

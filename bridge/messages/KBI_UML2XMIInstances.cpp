@@ -28,7 +28,7 @@ KYRStringArray arrayOf(const KYRString& first, const KYRString& second) {
 
 }  // namespace
 
-KBI_UML2XMI::TextInstance::TextInstance(const KYRString& identifier, const KYRString& text)
+KBI_UML2XMI::TextInstance::TextInstance(const char* identifier, const char* text)
     : KYRParameterizedTextLiteral(identifier, text) {}
 
 KBI_UML2XMI::TextInstance::~TextInstance() = default;
@@ -38,8 +38,8 @@ const KYRString& KBI_UML2XMI::TextInstance::toString() const {
   return getText();
 }
 
-KBI_UML2XMI::ParameterInstance::ParameterInstance(const KYRString& identifier, const KYRString& displayName,
-                                                  OptionType type, const KYRString& description,
+KBI_UML2XMI::ParameterInstance::ParameterInstance(const char* identifier, const char* displayName,
+                                                  OptionType type, const char* description,
                                                   const KYRTextLiteral* enumeration,
                                                   const KYRTextLiteral* defaultValue)
     : KYRBridgeOptionLiteral(identifier, displayName, type, description, enumeration, defaultValue) {}
@@ -47,9 +47,9 @@ KBI_UML2XMI::ParameterInstance::ParameterInstance(const KYRString& identifier, c
 KBI_UML2XMI::ParameterInstance::~ParameterInstance() = default;
 
 // A message is known to the catalogue by its code.
-KBI_UML2XMI::MessageInstance::MessageInstance(int number, const KYRString& text, const KYRString& levelName)
+KBI_UML2XMI::MessageInstance::MessageInstance(int number, const char* text, const char* levelName)
     : KYRMessageLiteral(number, text, levelName) {
-  identifier_ = code = buildCode(catalogueName, levelName, number);
+  setCode(catalogueName, levelName);
 }
 
 KBI_UML2XMI::MessageInstance::~MessageInstance() = default;
@@ -67,10 +67,10 @@ void KBI_UML2XMI::MessageInstance::throwException() const {
   throw KYRException(getMessage(), buildStackTrace());
 }
 
-KBI_UML2XMI::MessageInstance_String::MessageInstance_String(int number, const KYRString& text,
-                                                            const KYRString& levelName)
+KBI_UML2XMI::MessageInstance_String::MessageInstance_String(int number, const char* text,
+                                                            const char* levelName)
     : KYRMessageLiteral(number, text, levelName) {
-  identifier_ = code = buildCode(catalogueName, levelName, number);
+  setCode(catalogueName, levelName);
 }
 
 KBI_UML2XMI::MessageInstance_String::~MessageInstance_String() = default;
@@ -92,10 +92,10 @@ void KBI_UML2XMI::MessageInstance_String::throwException(const KYRString& first)
   throw KYRException(getMessage(first), buildStackTrace());
 }
 
-KBI_UML2XMI::MessageInstance_String_String::MessageInstance_String_String(int number, const KYRString& text,
-                                                                          const KYRString& levelName)
+KBI_UML2XMI::MessageInstance_String_String::MessageInstance_String_String(int number, const char* text,
+                                                                          const char* levelName)
     : KYRMessageLiteral(number, text, levelName) {
-  identifier_ = code = buildCode(catalogueName, levelName, number);
+  setCode(catalogueName, levelName);
 }
 
 KBI_UML2XMI::MessageInstance_String_String::~MessageInstance_String_String() = default;

@@ -1,11 +1,13 @@
 // The version as text, and the step that marks a model with its data store.
 #include "repository/datatypes/KYRDataStoreVersion.h"
 
+#include <utility>
+
 #include "repository/model/KYRStoreModel.h"
 
-KYRDataStoreVersion::KYRDataStoreVersion(const KYRString& dataStore, int majorVersion, int minorVersion,
+KYRDataStoreVersion::KYRDataStoreVersion(KYRString dataStore, int majorVersion, int minorVersion,
                                          int releaseVersion)
-    : dataStore_(dataStore),
+    : dataStore_(std::move(dataStore)),
       majorVersion_(majorVersion),
       minorVersion_(minorVersion),
       releaseVersion_(releaseVersion) {}

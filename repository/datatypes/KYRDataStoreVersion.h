@@ -9,8 +9,9 @@ class KYRStoreModel;
 /// A data store and three version numbers. A plain value; tables of stores derive from it.
 class KYR_EXPORT KYRDataStoreVersion {
  public:
-  /// `dataStore` is a `DATASTORE_` constant of KYRDataTypeConstants, or empty for no store at all.
-  KYRDataStoreVersion(const KYRString& dataStore, int majorVersion, int minorVersion, int releaseVersion);
+  /// `dataStore` is a `DATASTORE_` constant of KYRDataTypeConstants, or empty for no store at all. What is
+  /// moved in stays borrowed, so that rows of tables can be made without memory.
+  KYRDataStoreVersion(KYRString dataStore, int majorVersion, int minorVersion, int releaseVersion);
 
   const KYRString& getDataStore() const noexcept { return dataStore_; }
   int getMajorVersion() const noexcept { return majorVersion_; }

@@ -6,10 +6,10 @@
 KBCM::MessageInstance_String_String KBCM::UNSUPPORTED_BRIDGE_OPERATION(
     1, "The bridge '{0}' does not support the operation '{1}'", "FATAL");
 
-KBCM::MessageInstance_String_String::MessageInstance_String_String(int number, const KYRString& text,
-                                                                   const KYRString& levelName)
+KBCM::MessageInstance_String_String::MessageInstance_String_String(int number, const char* text,
+                                                                   const char* levelName)
     : KYRMessageLiteral(number, text, levelName) {
-  identifier_ = code = buildCode("KBCM", levelName, number);
+  setCode("KBCM", levelName);
 }
 
 KBCM::MessageInstance_String_String::~MessageInstance_String_String() = default;

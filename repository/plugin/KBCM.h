@@ -11,7 +11,7 @@ class KYR_EXPORT KBCM {
   /// A message with two arguments. Its identifier is its code.
   class KYR_EXPORT MessageInstance_String_String : public KYRMessageLiteral {
    public:
-    MessageInstance_String_String(int number, const KYRString& text, const KYRString& levelName);
+    MessageInstance_String_String(int number, const char* text, const char* levelName);
     ~MessageInstance_String_String() override;
     KYRString toString(const KYRString& first, const KYRString& second) const;
     /// The code in square brackets, a blank, and the text.

@@ -4,13 +4,13 @@
 #include <utility>
 #include <vector>
 
-KYRBridgeOptionLiteral::KYRBridgeOptionLiteral(const KYRString& identifier, const KYRString& displayName,
-                                               OptionType type, const KYRString& description,
+KYRBridgeOptionLiteral::KYRBridgeOptionLiteral(const char* identifier, const char* displayName,
+                                               OptionType type, const char* description,
                                                const KYRTextLiteral* enumeration,
                                                const KYRTextLiteral* defaultValue)
     : KYRTextLiteral(identifier, displayName),
       type_(type),
-      description_(description),
+      description_(KYRString::borrowed(description)),
       enumeration_(enumeration),
       defaultValue_(defaultValue) {}
 

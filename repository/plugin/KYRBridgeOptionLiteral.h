@@ -10,9 +10,9 @@
 class KYR_EXPORT KYRBridgeOptionLiteral : public KYRTextLiteral {
  public:
   /// `enumeration` lists the values a host may offer, one a line; null for free text. Both literals are
-  /// borrowed and live as long as this one. A null `defaultValue` is the empty text.
-  KYRBridgeOptionLiteral(const KYRString& identifier, const KYRString& displayName, OptionType type,
-                         const KYRString& description, const KYRTextLiteral* enumeration,
+  /// borrowed and live as long as this one, and so are the texts. A null `defaultValue` is the empty text.
+  KYRBridgeOptionLiteral(const char* identifier, const char* displayName, OptionType type,
+                         const char* description, const KYRTextLiteral* enumeration,
                          const KYRTextLiteral* defaultValue);
   ~KYRBridgeOptionLiteral() override;
 

@@ -23,13 +23,13 @@ constexpr KYRBridgeSpecificationLiteral::Facts magicDraw = {"OmgUml2XmiNoMagicMa
 }  // namespace
 
 KYRBridgeSpecificationLiteral::KYRBridgeSpecificationLiteral(const Facts& facts)
-    : name_(facts.name),
-      descriptionLiteralId_(facts.descriptionLiteralId),
-      toolWeb_(facts.toolWeb),
-      vendorName_(facts.vendorName),
-      toolName_(facts.toolName),
-      toolVersions_(facts.toolVersions),
-      methodologySummary_(facts.methodologySummary) {}
+    : name_(KYRString::borrowed(facts.name)),
+      descriptionLiteralId_(KYRString::borrowed(facts.descriptionLiteralId)),
+      toolWeb_(KYRString::borrowed(facts.toolWeb)),
+      vendorName_(KYRString::borrowed(facts.vendorName)),
+      toolName_(KYRString::borrowed(facts.toolName)),
+      toolVersions_(KYRString::borrowed(facts.toolVersions)),
+      methodologySummary_(KYRString::borrowed(facts.methodologySummary)) {}
 
 KYRBridgeSpecificationLiteral KBLST::BRIDGE_SPEC_OMGUML2XMI_IMPORT(anyTool);
 KYRBridgeSpecificationLiteral KBLST::BRIDGE_SPEC_OMGUML2XMINOMAGICMAGICDRAW_IMPORT(magicDraw);

@@ -3,10 +3,25 @@
 
 #include <sqlite3.h>
 
+#include <cstring>
 #include <utility>
 
 #include "repository/KYRRepositoryMessages.h"
 #include "repository/storage/SqliteWaiting.h"
+
+namespace {
+
+// What the system said of the call that failed; 0 when it was none. A disk that cannot be read is told by
+// SQLite as a database that is damaged.
+int systemError(sqlite3* database) noexcept {
+  const int code = sqlite3_errcode(database);
+  if (code != SQLITE_IOERR && code != SQLITE_CORRUPT && code != SQLITE_CANTOPEN) return 0;
+  int error = sqlite3_system_errno(database);
+  if (error == 0) sqlite3_file_control(database, "main", SQLITE_FCNTL_LAST_ERRNO, &error);
+  return error;
+}
+
+}  // namespace
 
 SqliteDatabase::SqliteDatabase(const std::string& path, const KYRString& shownPath) : shownPath_(shownPath) {
   const std::string place = SqliteWaiting::placeOf(path);
@@ -39,7 +54,9 @@ void SqliteDatabase::close() {
 }
 
 void SqliteDatabase::fail() const {
-  const std::string reason = sqlite3_errmsg(handle_);
+  std::string reason = sqlite3_errmsg(handle_);
+  const int error = systemError(handle_);
+  if (error != 0) reason = reason + ": " + std::strerror(error);
   KYRRepositoryMessages::CANNOT_SAVE.throwException(shownPath_, KYRString(std::string_view(reason)));
 }
 

@@ -26,20 +26,22 @@ struct Parameterized : KYRParameterizedTextLiteral {
 };
 
 struct Message : KYRMessageLiteral {
-  Message(int number, const KYRString& text, const KYRString& levelName)
+  Message(int number, const char* text, const char* levelName, const char* catalogueName = "LIB_CATALOGUE")
       : KYRMessageLiteral(number, text, levelName) {
-    code = buildCode("LIB_CATALOGUE", levelName, number);
-    identifier_ = code;
+    setCode(catalogueName, levelName);
   }
-  using KYRMessageLiteral::buildCode;
 };
 
-TEST(KYRTextLiteral, KeepsItsOwnIdentifierAndText) {
-  char text[] = "text";
-  const KYRTextLiteral literal("id", KYRString::borrowed(text));
-  text[0] = 'X';
+// Literals are made while a library is loaded, where nobody can be told that there is no memory.
+TEST(KYRTextLiteral, BorrowsIdentifierAndText) {
+  const KYRTextLiteral literal("id", "text");
   EXPECT_EQ(literal.getIdentifier().view(), "id");
   EXPECT_EQ(literal.getText().view(), "text");
+  const Message message(8, "text", "FATAL");
+  for (const KYRString* text : {&literal.getIdentifier(), &literal.getText(), &message.getIdentifier(),
+                                &message.getText(), &message.getCode()}) {
+    EXPECT_TRUE(text->isBorrowed()) << text->view();
+  }
 }
 
 TEST(KYRParameterizedTextLiteral, PlaceholdersAreReplacedInOnePass) {
@@ -104,7 +106,9 @@ TEST(KYRMessageLiteral, CodesFillTheNumberUpToFourDigits) {
                       {"FATAL", 0, "CAT_F0000"},
                       {"FATAL", 12345, "CAT_F000012345"}};  // a negative count of zeros takes all four
   for (const Row& row : rows) {
-    EXPECT_EQ(Message::buildCode("CAT", row.level, row.number).view(), row.expected);
+    const Message message(row.number, "", row.level, "CAT");
+    EXPECT_EQ(message.getCode().view(), row.expected);
+    EXPECT_EQ(message.getIdentifier().view(), row.expected);
   }
 }
 
@@ -130,8 +134,10 @@ TEST(KYRTextLiteralsCollection, FindsLiteralsByExactIdentifier) {
 TEST(KYRTextLiteralsCollection, ListsAllLiteralsInOrderOfAdding) {
   KYRTextLiteralsCollection catalogue("Library", "CATALOGUE");
   std::vector<std::unique_ptr<Parameterized>> literals;
+  std::vector<std::string> identifiers(200);
   for (int i = 0; i < 200; ++i) {
-    literals.push_back(std::make_unique<Parameterized>(KYRString(i * 7919 % 1000), "text"));
+    std::string& identifier = identifiers[static_cast<std::size_t>(i)] = std::to_string(i * 7919 % 1000);
+    literals.push_back(std::make_unique<Parameterized>(identifier.c_str(), "text"));
     ASSERT_TRUE(catalogue.add(literals.back().get()));
   }
   catalogue.init();

@@ -20,6 +20,7 @@ TEST(TerminalText, EscapesWhatATerminalObeysAndLeavesTheRest) {
       {"\xC2\x80 \xC2\x9B \xC2\x9F \xC2\xA0", "\\u0080 \\u009b \\u009f \xC2\xA0"},
       {"\xE2\x80\xA8 \xE2\x80\xA9", "\\u2028 \\u2029"},
       {"\xE2\x80\xAA \xE2\x80\xAE \xE2\x81\xA6 \xE2\x81\xA9", "\\u202a \\u202e \\u2066 \\u2069"},
+      {"\xD8\x9C \xE2\x80\x8E \xE2\x80\x8F", "\\u061c \\u200e \\u200f"},  // marks of direction
   };
   for (const Case& test : cases) EXPECT_EQ(TerminalText::escape(test.text), test.expected) << test.text;
 }

@@ -11,6 +11,7 @@ KYR = os.environ.get("KYR", "")
 SAMPLES = pathlib.Path(os.environ.get("KYR_SAMPLES", ""))
 DATA = pathlib.Path(__file__).resolve().parent / "data"
 SMALL = DATA / "small.xmi"
+COUNTS_COVERAGE = "KYR_COVERAGE" in os.environ
 PLUGIN_NAME = "libKYROmgUml2XmiImport.so"
 TIMEOUT = 60
 

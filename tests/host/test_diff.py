@@ -61,6 +61,24 @@ changed attribute Sales/Inner/Purchase/number
             {"kind": "attribute", "path": "Sales/Inner/Purchase/number", "sourceId": "a",
              "fields": [{"field": "isDerived", "old": False, "new": True}]}])
 
+    def test_values_of_every_kind_in_both_forms(self):
+        template = ('<packagedElement xmi:type="uml:DataType" xmi:id="s" name="Small"/>'
+                    '<packagedElement xmi:type="uml:DataType" xmi:id="l" name="Large"/>'
+                    '<packagedElement xmi:type="uml:Class" xmi:id="c" name="C">'
+                    '<ownedAttribute xmi:type="uml:Property" xmi:id="a" name="n" {}</ownedAttribute></packagedElement>')
+        for name, rest in (("first", 'visibility="public" type="s">'),
+                           ("second", 'visibility="private" type="l"><defaultValue xmi:type="uml:LiteralString" '
+                                      'xmi:id="v" value="5"/>')):
+            self.write(f"{name}.xmi", model_text(content=template.format(rest)))
+            self.assertEqual(self.kyr("import", f"{name}.xmi", "-q").code, 0)
+        output = self.kyr("diff", "first.json", "second.json").output
+        for line in ("  visibility: 0 -> 2", "  initialValue: nothing -> '5'", "  type: 'Small' -> 'Large'"):
+            self.assertIn(line, output.splitlines())
+        report = json.loads(self.kyr("diff", "second.json", "first.json", "--json").output)
+        change = next(change for change in report["changed"] if change["sourceId"] == "a")
+        fields = {field["field"]: (field["old"], field["new"]) for field in change["fields"]}
+        self.assertEqual(fields, {"visibility": (2, 0), "initialValue": ("5", None), "type": (["Large"], ["Small"])})
+
     def test_texts_of_files_obey_nothing_on_a_terminal(self):
         text = (self.folder / "new.json").read_text().replace('"number"', '"\\u001b[2J"')
         self.write("odd.json", text)

@@ -96,6 +96,22 @@ class GivenPath(CommandTest):
         self.assertEqual(self.names(), ["pipe", "text.so"])
 
 
+@unittest.skipUnless("KYR_REFUSING_PLUGIN" in os.environ, "the plug-in is built for ctest")
+class RefusingPlugin(CommandTest):
+    def import_by(self, **environment):
+        self.write("small.json", "old")
+        result = self.kyr("import", SMALL, "-q", "-o", "small.json", "--plugin", os.environ["KYR_REFUSING_PLUGIN"],
+                          env=dict(os.environ, **environment))
+        self.assertEqual((self.folder / "small.json").read_text(), "old")
+        return result
+
+    def test_a_plug_in_without_the_option_of_the_file_is_told(self):
+        self.assertFails(self.import_by(), FAILED, "[KYRHOST_F0009] ")
+
+    def test_a_plug_in_that_just_says_no_is_a_failure(self):
+        self.assertFails(self.import_by(KYR_REFUSING_OPTIONS="1"), FAILED, "[KYRHOST_F0010] ")
+
+
 class Info(CommandTest):
     def setUp(self):
         super().setUp()

@@ -93,6 +93,8 @@ class Help(CommandTest):
             "inspect": ["--json", "--objects", "--normalize[=all]", "--encoding"],
             "normalize": ["--output", "--all", "--encoding"],
         }
+        for command in ("import", "inspect", "normalize"):
+            options[command] += ["--max-depth", "--max-attribute ", "--max-attribute-count", "--max-name"]
         for command, names in options.items():
             output = self.kyr(command, "--help").output
             for name in names:

@@ -116,6 +116,23 @@ TEST(FailingCallsOfThreads, EndTheImportToo) {
                isSoaking() ? 1 : 4);
 }
 
+// They are for speed: where none can be started, the work is done without.
+TEST(FailingCallsOfThreads, AThreadThatCannotBeStartedIsDoneWithout) {
+  const TemporaryFile input(fileOfClasses(4800));
+  const std::string expected = ImportRun::resultOf(input.path);
+  for (const auto extent : {CallFault::Extent::one, CallFault::Extent::allFrom}) {
+    long number = 0;
+    for (bool isFailing = true; isFailing; ++number) {
+      ImportRun import(input.path);
+      const CallFault failing(FailingCall::thread, number, EAGAIN, extent);
+      import.run();
+      isFailing = failing.hasFailed();
+      EXPECT_TRUE(import.saved() == expected) << number;
+    }
+    EXPECT_GT(number, 1);
+  }
+}
+
 std::unique_ptr<KYRStoreModel> loadSample() {
   ImportRun import(samplePath("enterprise-architect.xmi"));
   import.run();

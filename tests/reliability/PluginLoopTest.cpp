@@ -14,9 +14,10 @@ namespace {
 
 using Entry = KYROmgUml2XmiImportDllInterface* (*)();
 
-// One import by a plug-in that lives as long as the call.
-void importByPlugin(const std::string& output) {
-  void* const library = dlopen(KYR_PLUGIN, RTLD_NOW | RTLD_LOCAL);
+void* load() { return dlopen(KYR_PLUGIN, RTLD_NOW | RTLD_LOCAL); }
+
+// One import by a plug-in that is unloaded behind it.
+void importBy(void* library, const std::string& output) {
   ASSERT_NE(library, nullptr) << dlerror();
   const auto entry = reinterpret_cast<Entry>(dlsym(library, "getKYROmgUml2XmiImportInterface"));
   ASSERT_NE(entry, nullptr);
@@ -47,7 +48,7 @@ TEST(PluginLoop, AHundredRoundsLeaveNothingInMemory) {
   long leastGrowth = std::numeric_limits<long>::max();
   for (int batch = 0; batch < batches; ++batch) {
     const auto before = static_cast<long>(mallinfo2().uordblks);
-    for (int round = 0; round < rounds; ++round) importByPlugin(folder.output());
+    for (int round = 0; round < rounds; ++round) importBy(load(), folder.output());
     leastGrowth = std::min(leastGrowth, static_cast<long>(mallinfo2().uordblks) - before);
   }
   EXPECT_FALSE(isLoaded());
@@ -55,6 +56,33 @@ TEST(PluginLoop, AHundredRoundsLeaveNothingInMemory) {
     EXPECT_LE(leastGrowth, 0);
   }
   EXPECT_NE(folder.saved(), ImportRun::old);
+}
+
+// Its static objects are made in the midst of the loader, which no exception can cross: they ask for no
+// memory. What the loader itself asks for makes it fail, with a reason.
+TEST(PluginLoop, LoadingWithoutMemoryFailsWithAReasonOrGivesAWholePlugin) {
+  const ImportRun folder("");
+  int failed = 0;
+  for (const auto extent : {FailingAllocation::Extent::one, FailingAllocation::Extent::allFrom}) {
+    bool isFailing = true;
+    for (long number = 0; isFailing; ++number) {
+      void* library = nullptr;
+      {
+        const FailingAllocation failing(number, extent);
+        library = load();
+        isFailing = failing.hasFailed();
+      }
+      if (library == nullptr) {
+        ++failed;
+        EXPECT_TRUE(isFailing);
+        EXPECT_NE(dlerror(), nullptr);
+      } else {
+        importBy(library, folder.output());
+      }
+    }
+  }
+  EXPECT_FALSE(isLoaded());
+  EXPECT_EQ(failed > 0, FailingAllocation::reachesC());
 }
 
 }  // namespace

@@ -22,10 +22,9 @@ constexpr long never = std::numeric_limits<long>::max();
 std::atomic<long> allocations{0};  // while an object lives
 std::atomic<long> firstFailure{never};
 std::atomic<long> lastFailure{never};
-std::atomic<bool> isInPause{false};
 
 bool mayAllocate() noexcept {
-  if (firstFailure.load(std::memory_order_relaxed) == never || isInPause) return true;
+  if (firstFailure.load(std::memory_order_relaxed) == never) return true;
   const long number = allocations++;
   return number < firstFailure || number > lastFailure;
 }
@@ -43,8 +42,6 @@ FailingAllocation::~FailingAllocation() { firstFailure = never; }
 bool FailingAllocation::hasFailed() const noexcept { return allocations > firstFailure; }
 
 long FailingAllocation::getCount() noexcept { return allocations; }
-
-void FailingAllocation::pause(bool isPaused) noexcept { isInPause = isPaused; }
 
 bool FailingAllocation::reachesC() noexcept { return KYR_SANITIZED_ALLOCATOR == 0; }
 

@@ -15,8 +15,6 @@ class FailingAllocation {
   bool hasFailed() const noexcept;
   /// How many allocations were asked for so far.
   static long getCount() noexcept;
-  /// While paused, allocations succeed and do not count.
-  static void pause(bool isPaused) noexcept;
   /// Whether the functions of C fail too.
   static bool reachesC() noexcept;
 };

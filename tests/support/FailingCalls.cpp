@@ -1,7 +1,9 @@
 // Stands before the functions of the C library of the same names; the kernel is asked directly.
 #include "tests/support/FailingCalls.h"
 
+#include <dlfcn.h>
 #include <fcntl.h>
+#include <pthread.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -113,4 +115,17 @@ extern "C" KYR_EXPORT int fdatasync(int descriptor) {
 extern "C" KYR_EXPORT int rename(const char* from, const char* to) noexcept {
   if (fails(FailingCall::rename)) return -1;
   return static_cast<int>(syscall(SYS_rename, from, to));
+}
+
+extern "C" KYR_EXPORT int unlink(const char* path) noexcept {
+  if (fails(FailingCall::remove)) return -1;
+  return static_cast<int>(syscall(SYS_unlink, path));
+}
+
+// Answers the number of the error itself.
+extern "C" KYR_EXPORT int pthread_create(pthread_t* thread, const pthread_attr_t* attributes,
+                                         void* (*run)(void*), void* argument) noexcept {
+  using Create = int (*)(pthread_t*, const pthread_attr_t*, void* (*)(void*), void*);
+  static const auto create = reinterpret_cast<Create>(dlsym(RTLD_NEXT, "pthread_create"));
+  return fails(FailingCall::thread) ? errno : create(thread, attributes, run, argument);
 }

@@ -1,9 +1,10 @@
-// FailingCalls: makes system calls of this program fail, wherever they are made.
+// FailingCalls: makes system calls of this program fail, and threads that are to be started, wherever they
+// are made.
 #pragma once
 
 #include <cstddef>
 
-enum class FailingCall { open, read, write, sync, rename };
+enum class FailingCall { open, read, write, sync, rename, remove, thread };
 
 /// The call of that number, from 0 on, fails with that errno, and so do those behind it when the extent
 /// says so. One object at a time; calls of all threads count.

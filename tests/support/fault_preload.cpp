@@ -1,13 +1,12 @@
 // A library for LD_PRELOAD: a program that runs with it sees its system calls or its allocations fail. The
 // environment says which:
 //
-//   KYR_FAULT=call:number:errno[:all]   call is open, read, write, sync, rename or memory; with "all", those
-//                                       behind the numbered one (from 0) fail too
+//   KYR_FAULT=call:number:errno[:all]   call is open, read, write, sync, rename, remove, thread or memory;
+//   with
+//                                       "all", those behind the numbered one (from 0) fail too
 //   KYR_FAULT_REPORT=path               a file of that path is made at the end when something has failed
 //
-// Counting begins with the main function: before it, there is nobody to tell. For the same reason no
-// allocation fails while a library is loaded: its static objects are made in the midst of the loader, which
-// no exception can cross.
+// Counting begins with the main function: before it, there is nobody to tell.
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <stdlib.h>
@@ -49,11 +48,10 @@ struct NamedCall {
   const char* name;
   FailingCall call;
 };
-constexpr NamedCall namedCalls[] = {{"open", FailingCall::open},
-                                    {"read", FailingCall::read},
-                                    {"write", FailingCall::write},
-                                    {"sync", FailingCall::sync},
-                                    {"rename", FailingCall::rename}};
+constexpr NamedCall namedCalls[] = {{"open", FailingCall::open},     {"read", FailingCall::read},
+                                    {"write", FailingCall::write},   {"sync", FailingCall::sync},
+                                    {"rename", FailingCall::rename}, {"remove", FailingCall::remove},
+                                    {"thread", FailingCall::thread}};
 
 class FaultOfEnvironment {
  public:
@@ -98,14 +96,6 @@ int mainWithFault(int count, char** arguments, char** environment) {
 }
 
 }  // namespace
-
-extern "C" KYR_EXPORT void* dlopen(const char* path, int mode) noexcept {
-  using Open = void* (*)(const char*, int);
-  FailingAllocation::pause(true);
-  void* const library = reinterpret_cast<Open>(dlsym(RTLD_NEXT, "dlopen"))(path, mode);
-  FailingAllocation::pause(false);
-  return library;
-}
 
 // What the program's entry calls; it calls main.
 extern "C" KYR_EXPORT int __libc_start_main(Main main, int count, char** arguments, void (*init)(),
