@@ -82,7 +82,7 @@ KYROmgUml2XmiImportBridge::MDDiagramFrameElement::~MDDiagramFrameElement() { chi
 
 KYROmgUml2XmiImportBridge::MDDiagramFrame::~MDDiagramFrame() { elements.deleteRecords(); }
 
-void KYROmgUml2XmiImportBridge::collectDiagrams(const KYRDOMElement* element, KYRString packageId) {
+void KYROmgUml2XmiImportBridge::collectDiagrams(const KYRDOMElement* element, const KYRString& packageId) {
   static const KYRString typeName("xmi:type");
   static const KYRString idName("xmi:id");
   std::vector<OpenElement> open;

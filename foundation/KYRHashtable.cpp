@@ -102,6 +102,8 @@ KYRContainer::Iterator* KYRHashtable::newIterator(bool /*forward*/) const { retu
 
 void KYRHashtable::deleteIterator(Iterator* iterator) const { delete iterator; }
 
+// Looking up hashes what waits, which adds it anew: once, since nothing waits any more by then.
+// NOLINTBEGIN(misc-no-recursion)
 bool KYRHashtable::add(const void* object, bool unique, Iterator* /*position*/) {
   if (object == nullptr) return false;
   if (!unique && hashing_ == Hashing::atFirstLookup && (isWaiting_ || buckets_.empty())) {
@@ -277,6 +279,7 @@ std::uint32_t KYRHashtable::findEqual(const void* object, std::uint32_t hash) co
 std::uint32_t KYRHashtable::findKey(const void* key) const {
   return findLeader(hashKey(key), [&](const void* present) { return compare2Key(present, key) == 0; });
 }
+// NOLINTEND(misc-no-recursion)
 
 // The slot of this very object. A few steps from both ends of the list of its key find it nearly
 // always; the rest is left to an index, so that no order of removals gets slow.

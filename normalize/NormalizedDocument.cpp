@@ -163,7 +163,7 @@ IdIndex NormalizedDocument::indexModel() const {
 }
 
 std::string NormalizedDocument::makeId(Node node, const IdIndex& ids) const {
-  const std::string id =
+  std::string id =
       "kyr_" + std::to_string(editor.getLine(node)) + '_' + std::to_string(editor.getColumn(node));
   if (ids.find(id) == IdIndex::none) return id;
   for (unsigned int number = 2;; ++number) {

@@ -72,6 +72,8 @@ const KYRClass* classOf(const UMLClassifier* element) {
 // The UML type of a feature of the model, and what has become of it there.
 struct FeatureType {
   explicit FeatureType(const KYRObject& feature) {
+    // The element type is the class, so the casts need no check.
+    // NOLINTBEGIN(cppcoreguidelines-pro-type-static-cast-downcast)
     switch (feature.getElementType()) {
       case KYRElementType::attribute:
         object = static_cast<const KYRAttribute&>(feature).type;
@@ -88,6 +90,7 @@ struct FeatureType {
       default:
         return;
     }
+    // NOLINTEND(cppcoreguidelines-pro-type-static-cast-downcast)
     if (const auto* const typed = umlCast<UMLTypedElement>(feature.umlElement)) element = typed->type;
   }
   const UMLType* element = nullptr;

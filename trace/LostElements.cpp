@@ -1,6 +1,7 @@
 // One operation for each class that the conversion knows, and one for where an element stands.
 #include "trace/LostElements.h"
 
+#include "repository/model/KYRObject.h"
 #include "trace/AbsorbedElements.h"
 #include "trace/ArrivedObjects.h"
 #include "trace/ReadNotes.h"
@@ -184,7 +185,7 @@ Loss LostElements::explainProperty(const UMLProperty& property) const {
   if (association == nullptr) association = property.owningAssociation;
   if (association == nullptr) association = umlCast<UMLAssociation>(property.owner);
   if (association == nullptr) return explainFeature(property);
-  const Loss own = explainAssociationEnd(property);
+  Loss own = explainAssociationEnd(property);
   if (isExplained(own)) return own;
   const bool isThereBeside = isThere(association) && association->getKind() == UMLAssociation::kind;
   return lossOf(isThereBeside ? Reason::otherPlace : Reason::associationNotConverted, *association);
@@ -203,7 +204,7 @@ Loss LostElements::explainAssociation(const UMLAssociation& association) const {
   if (ends.count() < fewestEnds) return explainEnd(association, nullptr, false, "memberEnd");
   for (const UMLProperty* end : ends) {
     if (end == nullptr) continue;
-    const Loss loss = explainAssociationEnd(*end);
+    Loss loss = explainAssociationEnd(*end);
     if (isExplained(loss)) return loss;
   }
   return lossOf(Reason::noPackage);
@@ -216,7 +217,7 @@ Loss LostElements::explainAssociationEnd(const UMLProperty& end) const {
 Loss LostElements::explainGeneralization(const UMLGeneralization& edge) const {
   if (!visited_.isRelation(&edge)) return explainPlace(edge);
   for (const UMLClassifier* end : {edge.general, edge.specific}) {
-    const Loss loss = explainEnd(edge, end, isClassKind(end), end == edge.general ? "general" : "specific");
+    Loss loss = explainEnd(edge, end, isClassKind(end), end == edge.general ? "general" : "specific");
     if (isExplained(loss)) return loss;
   }
   return lossOf(Reason::noPackage);

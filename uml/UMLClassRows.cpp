@@ -162,6 +162,7 @@ constinit const std::array<ClassRow, UMLLineage::kindCount> classRows = constant
 namespace UMLLineage {
 namespace {
 
+// NOLINTNEXTLINE(misc-no-recursion): over the classes of the metamodel, while compiling
 constexpr void include(Table& lineages, int kind, int other) {
   const auto bit = static_cast<unsigned int>(other);
   std::uint64_t& word = lineages.rows[kind].words[bit / 64];

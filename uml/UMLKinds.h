@@ -4,6 +4,8 @@
 // nothing is ever rejected. A null pointer means that the attribute was missing or empty.
 #pragma once
 
+#include <iterator>
+
 #include "foundation/KYRString.h"
 
 /// A kind object: one number. `Literals` gives the texts of 1 and up.
@@ -19,7 +21,7 @@ class UMLKindObject {
  private:
   // From the highest value down, without regard to case; the first match counts.
   static int parse(const KYRString& text) noexcept {
-    constexpr int count = static_cast<int>(sizeof(Literals::texts) / sizeof(Literals::texts[0]));
+    constexpr int count = static_cast<int>(std::size(Literals::texts));
     for (int i = count; i > 0; --i) {
       if (equalsIgnoringCase(text.view(), Literals::texts[i - 1])) return i;
     }

@@ -38,7 +38,9 @@ int ReaderNames::add(std::string_view text) {
 }
 
 unsigned int ReaderNames::bucketOf(std::string_view text) noexcept {
-  const auto letter = [text](std::size_t at) { return static_cast<unsigned char>(foldCase(text[at])); };
+  const auto letter = [text](std::size_t at) -> std::size_t {
+    return static_cast<unsigned char>(foldCase(text[at]));
+  };
   const std::size_t size = text.size();
   const std::size_t hash = size * 29U + letter(0) * 37U + letter(size / 2) * 101U + letter(size - 1) * 7U;
   return static_cast<unsigned int>(hash % bucketCount);

@@ -201,7 +201,7 @@ class KYROmgUml2XmiImportBridge {
 
   // Diagrams. Whatever does not resolve leaves its shape out, in silence.
   void importDiagrams();
-  void collectDiagrams(const KYRDOMElement* element, KYRString packageId);
+  void collectDiagrams(const KYRDOMElement* element, const KYRString& packageId);
   void collectFrames(const KYRDOMElement* element);
   void addFrameElement(const KYRDOMElement* element, MDDiagramFrame* frame);
   void importDiagram(MDDiagram* diagram);

@@ -35,6 +35,10 @@ const KYRString* XmlDocument::findAttribute(Node node, Name name) const noexcept
 }
 
 std::size_t XmlDocument::getMemorySize() const noexcept {
-  return sizeof *this + nodes_.getMemorySize() + attributes_.getMemorySize() + texts_.getMemorySize() +
-         names_.getMemorySize() + arena_.getMemorySize() + (source_ ? source_->getMemorySize() : 0);
+  std::size_t size = 0;
+  for (const XmlDocument* each = this; each != nullptr; each = each->source_.get()) {
+    size += sizeof *each + each->nodes_.getMemorySize() + each->attributes_.getMemorySize() +
+            each->texts_.getMemorySize() + each->names_.getMemorySize() + each->arena_.getMemorySize();
+  }
+  return size;
 }

@@ -337,16 +337,21 @@ std::string SqlSchema::createObjectsView() const {
       if (!hasKind) kind = "CAST('" + std::string(entry.kind) + "' AS TEXT)";
       if (entry.owners.empty()) continue;
       owner = "COALESCE(";
-      for (const SqlClass::Owner& held : entry.owners) owner += table.columns[held.column].name + ", ";
+      for (const SqlClass::Owner& held : entry.owners)
+        owner.append(table.columns[held.column].name).append(", ");
       owner += "model_id)";
     }
     const bool isNotes = name == "notes";
     if (isNotes) owner = "object_id";
     sql += separator;
-    sql += "SELECT id, " + std::string(isModels ? "id" : "model_id") + " AS model_id, " + kind +
-           " AS kind, CAST(" + owner + " AS BIGINT) AS owner_id, name, source_id, " +
-           (isNotes ? "CAST(COALESCE(note_text, description) AS TEXT)" : "description") +
-           " AS description FROM " + name;
+    for (const std::string_view part :
+         {std::string_view("SELECT id, "), std::string_view(isModels ? "id" : "model_id"),
+          std::string_view(" AS model_id, "), std::string_view(kind), std::string_view(" AS kind, CAST("),
+          std::string_view(owner), std::string_view(" AS BIGINT) AS owner_id, name, source_id, "),
+          std::string_view(isNotes ? "CAST(COALESCE(note_text, description) AS TEXT)" : "description"),
+          std::string_view(" AS description FROM "), std::string_view(name)}) {
+      sql += part;
+    }
     separator = "\nUNION ALL ";
   }
   return sql + ";\n";

@@ -86,6 +86,7 @@ void SqliteStatement::bind(int parameter, std::string_view value, bool isCopied)
   // The library spells the choice as function pointers that are numbers.
   // NOLINTNEXTLINE(performance-no-int-to-ptr)
   const sqlite3_destructor_type destructor =
+      // NOLINTNEXTLINE(performance-no-int-to-ptr): the value of SQLITE_TRANSIENT
       isCopied ? reinterpret_cast<sqlite3_destructor_type>(-1) : nullptr;
   const int result = sqlite3_bind_text64(handle_, parameter, text, value.size(), destructor, SQLITE_UTF8);
   if (result != SQLITE_OK) database_->fail();
