@@ -5,12 +5,17 @@
 #include "extension/ElementIndex.h"
 
 #include <algorithm>
+#include <bit>
 
 #include "uml/UMLElement.h"
 
 namespace {
 
-constexpr std::size_t firstSlots = 1024;
+// Most elements with an id are objects of the reader, so their number tells how many records there will be.
+std::size_t slotsFor(std::size_t objectCount) noexcept {
+  constexpr std::size_t fewest = 1024;
+  return std::bit_ceil(std::max(fewest, objectCount * 2));
+}
 
 const KYRString& blank() {
   static const KYRString text(" ");
@@ -81,9 +86,10 @@ ElementIndex::ElementIndex(const XmlDocument& document, std::size_t objectCount)
     : document_(document),
       idName_(document.findName("xmi:id")),
       isModelTag_(document.getNameCount()),
-      slots_(firstSlots, none),
+      slots_(slotsFor(objectCount), none),
       objects_(objectCount),
       recordOf_(document.getNodeCount(), none) {
+  records_.reserve(objectCount);
   for (XmlDocument::Name name = 0; name < document.getNameCount(); ++name) {
     isModelTag_[name] = equalsIgnoringCase(document.getNameText(name).view(), "uml:Model") ? 1 : 0;
   }

@@ -39,6 +39,44 @@ ByName findByName(const XmlChildren& children, XmlDocument::Name name) {
   return {begin, std::upper_bound(begin, children.byName.end(), first | 0xFFFFFFFFU)};
 }
 
+// A subtree of so few nodes is walked at each question: lists of its children would cost more.
+constexpr XmlDocument::Node fewNodes = 32;
+
+bool isSmall(const XmlDocument& document, XmlDocument::Node node) noexcept {
+  return document.getEnd(node) - node <= fewNodes;
+}
+
+// Visits the child elements, of that name only unless it is textName, until `visit` says true.
+template <class Visit>
+void walkChildren(const XmlDocument& document, XmlDocument::Node parent, XmlDocument::Name name,
+                  Visit visit) {
+  for (XmlDocument::Node node = parent + 1; node < document.getEnd(parent); node = document.getEnd(node)) {
+    if (!document.isElement(node)) continue;
+    if ((name == XmlDocument::textName || document.getName(node) == name) && visit(node)) return;
+  }
+}
+
+int countChildren(const XmlDocument& document, XmlDocument::Node parent, XmlDocument::Name name) {
+  int count = 0;
+  walkChildren(document, parent, name, [&](XmlDocument::Node) {
+    ++count;
+    return false;
+  });
+  return count;
+}
+
+// noNode out of range.
+XmlDocument::Node findChild(const XmlDocument& document, XmlDocument::Node parent, XmlDocument::Name name,
+                            int index) {
+  XmlDocument::Node found = XmlDocument::noNode;
+  walkChildren(document, parent, name, [&](XmlDocument::Node node) {
+    if (index-- != 0) return false;
+    found = node;
+    return true;
+  });
+  return found;
+}
+
 }  // namespace
 
 KYRDOMElement::KYRDOMElement(XmlTree* tree, unsigned int node) noexcept : tree_(tree), node_(node) {}
@@ -81,38 +119,46 @@ KYRDOMElement* KYRDOMElement::getParent() const {
 }
 
 const XmlChildren* KYRDOMElement::getChildren() const {
-  const bool isLeaf = tree_->getDocument().getEnd(node_) == node_ + 1;
-  if (!children_ && !isLeaf) children_ = tree_->listChildren(node_);
+  if (!children_) children_ = tree_->listChildren(node_);
   return children_.get();
 }
 
 const XmlChildren* KYRDOMElement::getChildrenByName() const {
   getChildren();
-  if (children_ && children_->byName.empty()) tree_->listByName(*children_);
+  if (children_->byName.empty()) tree_->listByName(*children_);
   return children_.get();
 }
 
 int KYRDOMElement::getElementCount() const {
-  const XmlChildren* const children = getChildren();
-  return children == nullptr ? 0 : static_cast<int>(children->nodes.size());
+  const XmlDocument& document = tree_->getDocument();
+  if (isSmall(document, node_)) return countChildren(document, node_, XmlDocument::textName);
+  return static_cast<int>(getChildren()->nodes.size());
 }
 
 KYRDOMElement* KYRDOMElement::getElement(int index) const {
+  const XmlDocument& document = tree_->getDocument();
+  if (isSmall(document, node_)) {
+    return tree_->getElement(findChild(document, node_, XmlDocument::textName, index));
+  }
   if (index < 0 || index >= getElementCount()) return nullptr;
   return tree_->getElement(children_->nodes[static_cast<std::size_t>(index)]);
 }
 
 int KYRDOMElement::getElementCount(const KYRString& tag) const {
-  const XmlChildren* const children = getChildrenByName();
-  if (children == nullptr) return 0;
-  const ByName found = findByName(*children, tree_->getDocument().findName(tag));
+  const XmlDocument& document = tree_->getDocument();
+  const XmlDocument::Name name = document.findName(tag);
+  if (name == XmlDocument::textName) return 0;
+  if (isSmall(document, node_)) return countChildren(document, node_, name);
+  const ByName found = findByName(*getChildrenByName(), name);
   return static_cast<int>(found.second - found.first);
 }
 
 KYRDOMElement* KYRDOMElement::getElement(const KYRString& tag, int index) const {
-  const XmlChildren* const children = getChildrenByName();
-  if (children == nullptr || index < 0) return nullptr;
-  const ByName found = findByName(*children, tree_->getDocument().findName(tag));
+  const XmlDocument& document = tree_->getDocument();
+  const XmlDocument::Name name = document.findName(tag);
+  if (name == XmlDocument::textName || index < 0) return nullptr;
+  if (isSmall(document, node_)) return tree_->getElement(findChild(document, node_, name, index));
+  const ByName found = findByName(*getChildrenByName(), name);
   if (index >= found.second - found.first) return nullptr;
   return tree_->getElement(static_cast<XmlDocument::Node>(found.first[index] & 0xFFFFFFFFU));
 }

@@ -69,6 +69,6 @@ class KYR_EXPORT KYRDOMElement {
   XmlTree* tree_;
   unsigned int node_;
   mutable bool isValueKnown_ = false;
-  mutable std::unique_ptr<XmlChildren> children_;  // null until asked for, and without any
+  mutable std::unique_ptr<XmlChildren> children_;  // null until asked for; never made of few nodes
   mutable KYRString value_;
 };

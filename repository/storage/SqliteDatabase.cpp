@@ -84,7 +84,6 @@ void SqliteStatement::bind(int parameter, std::string_view value, bool isCopied)
   // An address that is null would bind NULL.
   const char* const text = value.data() != nullptr ? value.data() : "";
   // The library spells the choice as function pointers that are numbers.
-  // NOLINTNEXTLINE(performance-no-int-to-ptr)
   const sqlite3_destructor_type destructor =
       // NOLINTNEXTLINE(performance-no-int-to-ptr): the value of SQLITE_TRANSIENT
       isCopied ? reinterpret_cast<sqlite3_destructor_type>(-1) : nullptr;
