@@ -40,6 +40,12 @@ const std::map<std::string, std::function<void(XmlWriter&, const Options&)>>& sp
       {"links", [](XmlWriter& w, const Options& o) { writeManyLinks(w, o.count, o.seed); }},
       {"types", [](XmlWriter& w, const Options& o) { writeManyTypes(w, o.count, o.types); }},
       {"enumeration", [](XmlWriter& w, const Options& o) { writeSharedEnumeration(w, o.count, o.types); }},
+      {"unresolved", [](XmlWriter& w, const Options& o) { writeUnresolvedTypes(w, o.count); }},
+      {"no-ids", [](XmlWriter& w, const Options& o) { writeWithoutIds(w, o.count); }},
+      {"prefixes", [](XmlWriter& w, const Options& o) { writeLongPrefixes(w, o.count); }},
+      {"one-class", [](XmlWriter& w, const Options& o) { writeOneClass(w, o.count); }},
+      {"deep-keys", [](XmlWriter& w, const Options& o) { writeDeepKeys(w, o.count); }},
+      {"diagrams", [](XmlWriter& w, const Options& o) { writeManyDiagrams(w, o.count); }},
       {"deep", [](XmlWriter& w, const Options& o) { writeDeepNesting(w, o.depth); }},
       {"attribute", [](XmlWriter& w, const Options& o) { writeHugeAttribute(w, o.bytes()); }},
       {"bomb", [](XmlWriter& w, const Options&) { writeEntityBomb(w); }}};
@@ -82,7 +88,8 @@ int main(int argc, char** argv) {
       ->check(CLI::PositiveNumber)
       ->capture_default_str();
   app.add_option("--seed", options.seed, "Same seed, same bytes")->capture_default_str();
-  app.add_option("--count", options.count, "Number of classes, links or attributes")->capture_default_str();
+  app.add_option("--count", options.count, "Number of classes, links, attributes, chains or diagrams")
+      ->capture_default_str();
   app.add_option("--types", options.types, "Number of types of the kind types, of literals of enumeration")
       ->check(CLI::PositiveNumber)
       ->capture_default_str();

@@ -18,8 +18,7 @@
 #include "foundation/xml/XmlPosition.h"
 #include "foundation/xml/XmlTextBlocks.h"
 
-struct _xmlError;
-struct _xmlParserCtxt;
+struct _xmlParserCtxt;  // NOLINT(bugprone-reserved-identifier): the name is that of libxml2
 
 /// How much of a text has been told to a sink.
 struct XmlProgress {
