@@ -39,6 +39,11 @@ class Result:
         self.error_lines = self.errors.splitlines()
 
 
+def children_of(process):
+    path = pathlib.Path(f"/proc/{process.pid}/task/{process.pid}/children")
+    return [int(number) for number in path.read_text().split()]
+
+
 class CommandTest(unittest.TestCase):
     """A test with a folder of its own, in which the command runs."""
 

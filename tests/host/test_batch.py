@@ -8,7 +8,7 @@ import subprocess
 import time
 import unittest
 
-from support import BROKEN, DONE, FAILED, KYR, NO_MODEL, SMALL, WRONG_USAGE, CommandTest, model_text
+from support import BROKEN, DONE, FAILED, KYR, NO_MODEL, SMALL, WRONG_USAGE, CommandTest, children_of, model_text
 
 ODD = '<oddity/>'
 # Enough work to be met in the middle of it.
@@ -130,11 +130,6 @@ class Batch(CommandTest):
 
     def test_progress_is_for_terminals(self):
         self.assertNotIn("files done", self.kyr("import", "a.xmi", "b.xmi").errors)
-
-
-def children_of(process):
-    path = pathlib.Path(f"/proc/{process.pid}/task/{process.pid}/children")
-    return [int(number) for number in path.read_text().split()]
 
 
 def is_alive(number):

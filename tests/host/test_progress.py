@@ -4,7 +4,6 @@ import fcntl
 import os
 import pty
 import re
-import select
 import signal
 import struct
 import subprocess
@@ -12,7 +11,7 @@ import termios
 import time
 import unittest
 
-from support import DONE, KYR, CommandTest, model_text
+from support import DONE, KYR, CommandTest, children_of, model_text
 
 WIPED = "\r\x1b[K"
 READING = re.compile(r"reading \d+\.\d of (\d+\.\d) MB, (\d+) %")
@@ -74,18 +73,36 @@ class Progress(CommandTest):
         while self.read_some():
             pass
 
-    def run_slowly(self, *arguments, **options):
-        """The command on a machine on which its work takes so long that it is worth a line: it is stopped as soon
-        as it says something or, where it says nothing, at once, and goes on when the time is over."""
+    def reader_of_large(self, process, least, most):
+        """The process, this one or a child of it, that has read a part of the large file; None if there is none."""
+        size = os.path.getsize(self.large)
+        for number in (process.pid, *children_of(process)):
+            try:
+                for descriptor in os.listdir(f"/proc/{number}/fd"):
+                    if os.readlink(f"/proc/{number}/fd/{descriptor}") != str(self.large.resolve()):
+                        continue
+                    with open(f"/proc/{number}/fdinfo/{descriptor}", encoding="ascii") as info:
+                        position = int(info.readline().split()[1])
+                    if least * size < position <= most * size:
+                        return number
+            except OSError:  # it has ended, or closed the file, meanwhile
+                continue
+        return None
+
+    def run_slowly(self, *arguments, least=0.1, most=0.7, **options):
+        """The command on a machine on which its work takes so long that it is worth a line: it is stopped when it has
+        read that part of the file, and goes on when the time is over."""
         process = self.start(*arguments, **options)
-        select.select([self.master], [], [], 0.005)
-        process.send_signal(signal.SIGSTOP)
-        time.sleep(PATIENCE)
-        process.send_signal(signal.SIGCONT)
+        while process.poll() is None:
+            if (reader := self.reader_of_large(process, least, most)) is not None:
+                os.kill(reader, signal.SIGSTOP)
+                time.sleep(PATIENCE)
+                os.kill(reader, signal.SIGCONT)
+                break
         return process
 
     def shown_slowly(self, *arguments, wanted, **options):
-        """All that is shown. A machine that is done before it looks at the time is asked again."""
+        """All that is shown. A process that was not met in the middle of its work is followed by another."""
         for _ in range(20):
             process = self.run_slowly(*arguments, **options)
             self.read_all()
@@ -100,7 +117,8 @@ class Progress(CommandTest):
         for total, percent in READING.findall(shown):
             self.assertEqual(total, size)
             self.assertLess(int(percent), 100)
-        self.shown_slowly("import", "large.xmi", wanted=lambda shown: any(name in shown for name in LATER))
+        self.shown_slowly("import", "large.xmi", least=0.99, most=1,
+                          wanted=lambda shown: any(name in shown for name in LATER))
 
     def test_the_line_is_gone_before_anything_else_is_printed_and_at_the_end(self):
         shown = self.shown_slowly("import", "large.xmi", wanted=lambda shown: WIPED in shown)
