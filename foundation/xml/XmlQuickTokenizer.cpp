@@ -130,18 +130,24 @@ void XmlQuickTokenizer::guard(Action action) noexcept {
   }
 }
 
-// The end of the text is also what libxml2 is told once all is over: it leaves by itself then.
+// libxml2 takes a read that gives less than it asked for to be near the end of the text, and goes astray. The
+// end is also what it is told once all is over: it leaves by itself then.
 std::size_t XmlQuickTokenizer::read(char* buffer, std::size_t capacity) {
-  if (unread_.empty() && !readBlock()) return 0;
-  const std::size_t length = unread_.copy(buffer, capacity);
-  unread_.remove_prefix(length);
+  std::size_t length = 0;
+  while (length < capacity && (!unread_.empty() || readBlock())) {
+    const std::size_t copied = unread_.copy(buffer + length, capacity - length);
+    unread_.remove_prefix(copied);
+    length += copied;
+  }
   return length;
 }
 
 bool XmlQuickTokenizer::readBlock() {
+  if (isAtEnd_) return false;
   const XmlTextBlocks::Block& block = blocks_.next();
   if (!block.isPlain) giveUp();
-  if (isOver() || block.length == 0) return false;
+  isAtEnd_ = isOver() || block.length == 0;
+  if (isAtEnd_) return false;
   unread_ = {block.bytes.data(), block.length};
   starts_.erase(starts_.begin(), starts_.begin() + static_cast<std::ptrdiff_t>(startsTold_));
   startsTold_ = 0;

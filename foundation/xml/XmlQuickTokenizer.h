@@ -83,6 +83,7 @@ class KYR_EXPORT XmlQuickTokenizer {
   XmlEventSink& sink_;
   XmlTextBlocks blocks_;
   std::string_view unread_;          // of the last block
+  bool isAtEnd_ = false;             // no block follows
   std::vector<XmlPosition> starts_;  // of the blocks so far, but for some of those that were told
   std::size_t startsTold_ = 0;
   std::unique_ptr<_xmlParserCtxt, ParserDeleter> parser_;
