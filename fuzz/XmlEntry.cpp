@@ -76,6 +76,8 @@ std::string describe(const XmlDocument& document, bool withPositions) {
   return text;
 }
 
+bool isNotWellFormed(const Result& result) { return result.message.starts_with("[KYRSTD_F0007]"); }
+
 void checkComesBack(const XmlDocument& document) {
   if (document.isEmpty()) return;
   std::string written;
@@ -99,7 +101,9 @@ void fuzzXml(std::string_view input) {
   }
   promise((whole.document == nullptr) == (inPieces.document == nullptr),
           "blocks do not decide what is valid");
-  promise(whole.message == inPieces.message, "blocks do not change messages");
+  // Behind the root element the reason that expat gives depends on where a block ends.
+  promise(whole.message == inPieces.message || (isNotWellFormed(whole) && isNotWellFormed(inPieces)),
+          "blocks do not change messages");
   if (whole.document) {
     promise(describe(*whole.document, true) == describe(*inPieces.document, true),
             "blocks do not change documents");
