@@ -49,8 +49,8 @@ int KYROmgUml2XmiImportBridge::importModel(KYRStoreModel& model, KYROptionList& 
                                            const KYRString& originId) {
   storeModel = &model;
   readOptions(options);
-  const ReleaseGuard guard(
-      *this);  // before the parser, so that UML objects die first when something is raised
+  // Stands before the parser, so that UML objects die first when something is raised.
+  const ReleaseGuard guard(*this);
   stampOrigin(originId);
   KBI_UML2XMI::UML2_S_PARSING_FILE.log(*log, file.getName());
   auto parser = std::make_unique<XMIParser>(log);

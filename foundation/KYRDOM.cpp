@@ -50,8 +50,8 @@ bool isSmall(const XmlDocument& document, XmlDocument::Node node) noexcept {
 template <class Visit>
 void walkChildren(const XmlDocument& document, XmlDocument::Node parent, XmlDocument::Name name,
                   Visit visit) {
-  for (XmlDocument::Node node = parent + 1; node < document.getEnd(parent); node = document.getEnd(node)) {
-    if (!document.isElement(node)) continue;
+  for (XmlDocument::Node node = document.getFirstChild(parent); node != XmlDocument::noNode;
+       node = document.getNextSibling(node)) {
     if ((name == XmlDocument::textName || document.getName(node) == name) && visit(node)) return;
   }
 }

@@ -24,6 +24,7 @@ TEST(KYRStdMessages, CodesAndTextsAreThoseThatUsersKnow) {
       {KYRStdMessages::FILE_IS_FIFO, "KYRSTD_F0004", "The file '{0}' cannot be read: it is a FIFO"},
       {KYRStdMessages::FILE_IS_SOCKET, "KYRSTD_F0005", "The file '{0}' cannot be read: it is a socket"},
       {KYRStdMessages::FILE_IS_DEVICE, "KYRSTD_F0006", "The file '{0}' cannot be read: it is a device"},
+      {KYRStdMessages::FILE_HAS_CHANGED, "KYRSTD_F0019", "The file '{0}' has changed while it was read"},
       {KYRStdMessages::XML_NOT_WELL_FORMED, "KYRSTD_F0007", "File '{0}', line {1}, column {2}: {3}"},
       {KYRStdMessages::XML_NOT_UTF8, "KYRSTD_F0008",
        "File '{0}', line {1}, column {2}: the byte {3} is not valid UTF-8. Some tools write windows-1252 in "
