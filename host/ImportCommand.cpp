@@ -7,6 +7,7 @@
 
 #include "foundation/KYRFile.h"
 #include "foundation/KYROption.h"
+#include "foundation/MemoryAtEnd.h"
 #include "foundation/xml/XmlRewriting.h"
 #include "host/ExitCode.h"
 #include "host/FileNames.h"
@@ -72,6 +73,7 @@ int ImportCommand::run() {
   const ModelSaver saver(formatOf(settings_), settings_.isAppending);
   TraceFile trace(settings_.traceFile);
   ProgressWatch progress(!settings_.isQuiet && settings_.format == HostLog::Format::text);
+  MemoryAtEnd::leaveToSystem(true);  // nothing large comes behind the import, unless a survey says so
   importFile(options);
   trace.commit(normalizer_ ? &normalizer_->getReport() : nullptr);
   result_ = {std::chrono::duration<double>(Clock::now() - start).count(), saver.getCounts()};

@@ -6,6 +6,7 @@
 
 #include "foundation/KYRException.h"
 #include "foundation/KYRLog.h"
+#include "foundation/MemoryAtEnd.h"
 #include "foundation/WorkerThread.h"
 #include "host/ArrivalCount.h"
 #include "host/NormalizeSummary.h"
@@ -48,7 +49,12 @@ void LossSurvey::wait() noexcept {
 std::shared_ptr<const XmlDocument> LossSurvey::rewrite(const std::shared_ptr<const XmlDocument>& document) {
   wait();  // a second reading of the file: the rules of the first use the normalizer
   std::packaged_task<std::shared_ptr<const XmlDocument>()> rules(
-      [this, document] { return normalizer_.rewrite(document); });
+      [this, document] {
+        std::shared_ptr<const XmlDocument> normalized = normalizer_.rewrite(document);
+        // The file will be read once more then, so what the import leaves behind is better freed.
+        if (normalizer_.getReport().matters()) MemoryAtEnd::leaveToSystem(false);
+        return normalized;
+      });
   normalized_ = rules.get_future();
   if (document->getNodeCount() < worthAThread) {
     rules();

@@ -9,9 +9,8 @@ constexpr std::size_t firstSlots = 1024;
 
 IdTable::IdTable() : entries_(1), slots_(firstSlots) {}
 
-IdTable::Number IdTable::intern(const KYRString& id) {
+IdTable::Number IdTable::intern(const KYRString& id, std::uint32_t hash) {
   if (id.isEmpty()) return emptyId;
-  const std::uint32_t hash = id.hashCode();
   const std::size_t mask = slots_.size() - 1;
   std::size_t at = hash & mask;
   for (; slots_[at].number != emptyId; at = (at + 1) & mask) {

@@ -1,6 +1,7 @@
 // StoredNumbers: the id of each object of a model that is being saved: its place in the document.
 #pragma once
 
+#include <cstdint>
 #include <vector>
 
 #include "repository/model/KYRStoreModel.h"
@@ -17,7 +18,9 @@ class KYR_EXPORT StoredNumbers {
 
  private:
   struct Numbering;
-  // An object keeps its number itself; the list tells a number of this model from what else may stand
-  // there.
+  // An object keeps its number itself, below the mark of the numbering it stems from. No mark is used
+  // twice in a process but after two thousand million others, and none looks like a pointer, which may
+  // stand in the same place.
+  std::uint64_t mark_;
   std::vector<const KYRObject*> objects_;
 };

@@ -58,6 +58,7 @@ void XMIParser::readModel(const TagHandler& row, const KYRString& tag, const KYR
   detectVersions();
   const KYRString& xmiId = attribute(names.id);
   const KYRString& id = xmiId.isEmpty() ? name : xmiId;
+  announceReferences(*row.plan);
   std::unique_ptr<UMLElement> object = makeObject(*row.plan, id, name);
   patchRow();
   // A second model element takes the place of the first as the result.
@@ -90,9 +91,12 @@ void XMIParser::storeText(const TagHandler& row, const KYRString&) {
 void XMIParser::readPlan(const ClassPlan& plan, const KYRString& tag) {
   const ReaderNames& names = ReaderNames::get();
   const KYRString& id = attribute(names.id);
+  const std::uint32_t hash = ids.announce(id);
+  announceReferences(plan);
   std::unique_ptr<UMLElement> object = makeObject(plan, id, attribute(names.name));
   patchRow();
-  completeObject(plan, tag, std::move(object), ids.intern(id));
+  for (const Reference& reference : references) ids.approach(reference.hash);
+  completeObject(plan, tag, std::move(object), ids.intern(id, hash));
 }
 
 std::unique_ptr<UMLElement> XMIParser::makeObject(const ClassPlan& plan, const KYRString& id,
@@ -104,7 +108,7 @@ std::unique_ptr<UMLElement> XMIParser::makeObject(const ClassPlan& plan, const K
 void XMIParser::completeObject(const ClassPlan& plan, const KYRString& tag,
                                std::unique_ptr<UMLElement> object, IdTable::Number id) {
   readScalars(plan, *object);
-  noteReferences(plan, id);
+  noteReferences(id);
   UMLElement* const element = object.get();
   element->readingNumber = objects.getCount();
   objects.add(element, false, nullptr);
@@ -124,10 +128,17 @@ void XMIParser::readScalars(const ClassPlan& plan, UMLElement& element) {
 }
 
 // The value is taken whole: one that lists several ids is a key that no object has.
-void XMIParser::noteReferences(const ClassPlan& plan, IdTable::Number id) {
+void XMIParser::announceReferences(const ClassPlan& plan) {
+  references.clear();
   for (const ClassPlan::Reference& reference : plan.references) {
     const KYRString& value = attribute(reference.attribute);
-    if (!value.isEmpty()) noteLink(ids.intern(value), id, reference.linkKind);
+    if (!value.isEmpty()) references.push_back({&value, ids.announce(value), reference.linkKind});
+  }
+}
+
+void XMIParser::noteReferences(IdTable::Number id) {
+  for (const Reference& reference : references) {
+    noteLink(ids.intern(*reference.id, reference.hash), id, reference.linkKind);
   }
 }
 
@@ -146,6 +157,19 @@ void XMIParser::tieToParent(const ClassPlan& plan, const KYRString& tag, IdTable
   }
 }
 
+// Both ends of a link are filled in at once when their objects are known, while they are at hand. A link
+// that has to wait keeps those of its kind to either of its ids waiting behind it: each field is filled by
+// links of one kind, so every list gets its entries in the order in which they were noted.
 void XMIParser::noteLink(IdTable::Number first, IdTable::Number second, int kind) {
+  if (observer == nullptr && !ids.isWaiting(first, kind) && !ids.isWaiting(second, kind)) {
+    UMLElement* const firstObject = ids.find(first);
+    UMLElement* const secondObject = ids.find(second);
+    if (firstObject != nullptr && secondObject != nullptr) {
+      linkRelationship(firstObject, secondObject, kind);
+      return;
+    }
+  }
+  ids.wait(first, kind);
+  ids.wait(second, kind);
   pendingLinks.push_back({first, second, kind});
 }
