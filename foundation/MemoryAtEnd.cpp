@@ -9,6 +9,7 @@
 namespace {
 
 std::atomic<bool> isLeft = false;
+std::atomic<bool> isNeeded = false;
 
 // One that never ends: a destructor would take from leak detection what shows that nothing has leaked.
 struct LeftObjects {
@@ -25,7 +26,9 @@ LeftObjects& leftObjects() {
 
 void MemoryAtEnd::leaveToSystem(bool left) noexcept { isLeft = left; }
 
-bool MemoryAtEnd::isLeftToSystem() noexcept { return isLeft; }
+void MemoryAtEnd::needMemory(bool needed) noexcept { isNeeded = needed; }
+
+bool MemoryAtEnd::isLeftToSystem() noexcept { return isLeft && !isNeeded; }
 
 bool MemoryAtEnd::keep(const void* object) noexcept {
   if (object == nullptr) return false;

@@ -13,6 +13,9 @@ class KYR_EXPORT MemoryAtEnd {
   /// Whether the process ends soon after what it does now, so that memory may be left to the system. It
   /// is not unless its host says so. May be called from any thread.
   static void leaveToSystem(bool isLeft) noexcept;
+  /// Something large is still to come, whatever the host has said: memory is freed from now on. May be
+  /// called from any thread.
+  static void needMemory(bool isNeeded) noexcept;
   static bool isLeftToSystem() noexcept;
 
   /// Destroys `object`, or leaves it in memory, where it stays reachable until the process ends.

@@ -73,7 +73,8 @@ int ImportCommand::run() {
   const ModelSaver saver(formatOf(settings_), settings_.isAppending);
   TraceFile trace(settings_.traceFile);
   ProgressWatch progress(!settings_.isQuiet && settings_.format == HostLog::Format::text);
-  MemoryAtEnd::leaveToSystem(true);  // nothing large comes behind the import, unless a survey says so
+  // A database needs memory while it is made, and is given that of the objects that were read.
+  MemoryAtEnd::leaveToSystem(formatOf(settings_) != StoreModelFormat::sqlite);
   importFile(options);
   trace.commit(normalizer_ ? &normalizer_->getReport() : nullptr);
   result_ = {std::chrono::duration<double>(Clock::now() - start).count(), saver.getCounts()};

@@ -52,7 +52,7 @@ std::shared_ptr<const XmlDocument> LossSurvey::rewrite(const std::shared_ptr<con
       [this, document] {
         std::shared_ptr<const XmlDocument> normalized = normalizer_.rewrite(document);
         // The file will be read once more then, so what the import leaves behind is better freed.
-        if (normalizer_.getReport().matters()) MemoryAtEnd::leaveToSystem(false);
+        if (normalizer_.getReport().matters()) MemoryAtEnd::needMemory(true);
         return normalized;
       });
   normalized_ = rules.get_future();

@@ -1,6 +1,8 @@
 // Saving by libkyr, counting by the host.
 #include "host/ModelSaver.h"
 
+#include "foundation/MemoryAtEnd.h"
+
 ModelSaver::ModelSaver(StoreModelFormat format, bool isAppending)
     : format_(format), isAppending_(isAppending) {
   install(this);
@@ -15,4 +17,5 @@ void ModelSaver::save(const KYRFile& file, const KYRStoreModel& model) {
     saveStoreModelFile(file, model, format_);
   }
   counts_ = SavedModelCounts::of(model);
+  MemoryAtEnd::leaveToSystem(true);  // nothing is made of the model any more
 }

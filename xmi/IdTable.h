@@ -23,9 +23,9 @@ class IdTable {
   Number intern(const KYRString& id) { return intern(id, id.isEmpty() ? 0 : id.hashCode()); }
   /// As above, with the hash that `announce` has given for that id.
   Number intern(const KYRString& id, std::uint32_t hash);
-  /// Tells that an id will be interned soon, and gives its hash. Looking up an id waits for memory twice,
-  /// for its slot and for its entry: whoever announces first, has `approach` called later, and has other
-  /// things to do between, waits for neither.
+  /// Tells that an id will be interned soon, and gives its hash. Looking up an id waits for memory three
+  /// times, for its slot, its entry and its text: whoever announces first, calls `approach` and
+  /// `approachText` later, and has other things to do between, waits for none of them.
   std::uint32_t announce(const KYRString& id) const noexcept {
     if (id.isEmpty()) return 0;
     const std::uint32_t hash = id.hashCode();
@@ -36,6 +36,11 @@ class IdTable {
   void approach(std::uint32_t hash) const noexcept {
     const Slot& slot = slots_[hash & (slots_.size() - 1)];
     if (slot.hash == hash) __builtin_prefetch(&entries_[slot.number]);
+  }
+  /// Asks for the characters of an approached id.
+  void approachText(std::uint32_t hash) const noexcept {
+    const Slot& slot = slots_[hash & (slots_.size() - 1)];
+    if (slot.hash == hash) __builtin_prefetch(entries_[slot.number].text.getCharacters());
   }
   /// Enters an object under its id, unless one is there already or the id is empty.
   void enter(Number id, UMLElement* object) noexcept;
@@ -73,5 +78,5 @@ class IdTable {
   void grow();
 
   std::vector<Entry> entries_;
-  std::vector<Slot> slots_;  // open addressing; a power of two, at most half full
+  std::vector<Slot> slots_;  // open addressing; a power of two, at most two thirds full
 };

@@ -99,7 +99,8 @@ class XMIParser {
   struct Reference {
     const KYRString* id;
     std::uint32_t hash;
-    std::int32_t linkKind;
+    int position;  // in the plan
+    int linkKind;
   };
   /// One for each open XML element, skipped ones too; the row is null when none matched.
   struct HandlerEntry {

@@ -18,19 +18,19 @@ std::uint64_t nextMark() noexcept {
 }  // namespace
 
 struct StoredNumbers::Numbering {
-  std::vector<const KYRObject*>& objects;
-  std::uint64_t mark;
+  StoredNumbers& numbers;
+  const Listing listing;
   void enter(const KYRObject& object, const StoredClass&) {
-    objects.push_back(&object);
-    object.scratch_ = mark | objects.size();
+    object.scratch_ = numbers.mark_ | ++numbers.count_;
+    if (listing == Listing::all) numbers.objects_.push_back(&object);
   }
   void leave() {}
   void beginList(const StoredField&) {}
   void endList() {}
 };
 
-StoredNumbers::StoredNumbers(const KYRStoreModel& model) : mark_(nextMark()) {
-  Numbering numbering{objects_, mark_};
+StoredNumbers::StoredNumbers(const KYRStoreModel& model, Listing listing) : mark_(nextMark()) {
+  Numbering numbering{*this, listing};
   walkStored(model, numbering);
 }
 

@@ -8,13 +8,15 @@
 
 class KYR_EXPORT StoredNumbers {
  public:
-  /// Numbers all that the model holds, from 1. The model must not change while the numbers are used.
-  explicit StoredNumbers(const KYRStoreModel& model);
+  enum class Listing { none, all };
+  /// Numbers all that the model holds, from 1. The model must not change while the numbers are used. Only
+  /// with `all` can an object be asked for by its number.
+  StoredNumbers(const KYRStoreModel& model, Listing listing);
   /// 0 for null and for an object that the model does not hold.
   unsigned int get(const KYRObject* object) const noexcept;
-  /// The object of a number from 1 to `getCount()`.
+  /// The object of a number from 1 to `getCount()`, if they are listed.
   const KYRObject* at(unsigned int number) const { return objects_[number - 1]; }
-  unsigned int getCount() const noexcept { return static_cast<unsigned int>(objects_.size()); }
+  unsigned int getCount() const noexcept { return count_; }
 
  private:
   struct Numbering;
@@ -22,5 +24,6 @@ class KYR_EXPORT StoredNumbers {
   // twice in a process but after two thousand million others, and none looks like a pointer, which may
   // stand in the same place.
   std::uint64_t mark_;
+  unsigned int count_ = 0;
   std::vector<const KYRObject*> objects_;
 };

@@ -18,7 +18,10 @@ class Counted {
 
 class MemoryAtEndTest : public testing::Test {
  protected:
-  ~MemoryAtEndTest() override { MemoryAtEnd::leaveToSystem(false); }
+  ~MemoryAtEndTest() override {
+    MemoryAtEnd::leaveToSystem(false);
+    MemoryAtEnd::needMemory(false);
+  }
 
   int destroyed_ = 0;
 };
@@ -35,6 +38,14 @@ TEST_F(MemoryAtEndTest, WhatIsGivenStaysInMemoryInAProcessThatEnds) {
   MemoryAtEnd::leaveToSystem(true);
   MemoryAtEnd::give(std::make_unique<Counted>(destroyed));
   EXPECT_EQ(destroyed, 0);
+}
+
+TEST_F(MemoryAtEndTest, WhoeverNeedsMemoryIsHeardFirst) {
+  MemoryAtEnd::needMemory(true);
+  MemoryAtEnd::leaveToSystem(true);
+  EXPECT_FALSE(MemoryAtEnd::isLeftToSystem());
+  MemoryAtEnd::give(std::make_unique<Counted>(destroyed_));
+  EXPECT_EQ(destroyed_, 1);
 }
 
 TEST_F(MemoryAtEndTest, NothingIsGivenForNull) {

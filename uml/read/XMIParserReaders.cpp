@@ -1,5 +1,7 @@
 // The readers: one body serves all 117 classes, driven by their plans. The three that differ, those
 // of the model and of two literals, stand beside it.
+#include <algorithm>
+
 #include "bridge/messages/KBI_UML2XMI.h"
 #include "uml/UMLCast.h"
 #include "uml/UMLClasses.h"
@@ -107,8 +109,8 @@ std::unique_ptr<UMLElement> XMIParser::makeObject(const ClassPlan& plan, const K
 
 void XMIParser::completeObject(const ClassPlan& plan, const KYRString& tag,
                                std::unique_ptr<UMLElement> object, IdTable::Number id) {
+  for (const Reference& reference : references) ids.approachText(reference.hash);
   readScalars(plan, *object);
-  noteReferences(id);
   UMLElement* const element = object.get();
   element->readingNumber = objects.getCount();
   objects.add(element, false, nullptr);
@@ -116,24 +118,39 @@ void XMIParser::completeObject(const ClassPlan& plan, const KYRString& tag,
   if (observer != nullptr) observer->element(*element, parser->getLine());
   ids.enter(id, element);
   pushElement(element, id);
+  noteReferences(id);
   tieToParent(plan, tag, id);
 }
 
 // A missing attribute leaves the field as constructed, which is what its empty text would give.
 void XMIParser::readScalars(const ClassPlan& plan, UMLElement& element) {
-  for (const ClassPlan::Scalar& scalar : plan.scalars) {
-    const KYRString& value = attribute(scalar.attribute);
-    if (!value.isEmpty()) scalar.row->set(umlCastTo(&element, scalar.row->owner), value, kinds);
+  for (const int name : scan.getFoundNames()) {
+    const int position = plan.meanings[static_cast<std::size_t>(name)].scalar;
+    if (position == ClassPlan::none) continue;
+    const UMLMetamodel::ScalarRow& row = *plan.scalars[static_cast<std::size_t>(position)].row;
+    const KYRString& value = attribute(name);
+    if (!value.isEmpty()) row.set(umlCastTo(&element, row.owner), value, kinds);
   }
 }
 
-// The value is taken whole: one that lists several ids is a key that no object has.
+// The value is taken whole: one that lists several ids is a key that no object has. References are noted
+// in the order of the plan, whatever the order of the attributes.
 void XMIParser::announceReferences(const ClassPlan& plan) {
   references.clear();
-  for (const ClassPlan::Reference& reference : plan.references) {
-    const KYRString& value = attribute(reference.attribute);
-    if (!value.isEmpty()) references.push_back({&value, ids.announce(value), reference.linkKind});
+  for (const int name : scan.getFoundNames()) {
+    int position = plan.meanings[static_cast<std::size_t>(name)].firstReference;
+    if (position == ClassPlan::none || attribute(name).isEmpty()) continue;
+    const KYRString& value = attribute(name);
+    const std::uint32_t hash = ids.announce(value);
+    while (position != ClassPlan::none) {
+      const ClassPlan::Reference& reference = plan.references[static_cast<std::size_t>(position)];
+      references.push_back({&value, hash, position, reference.linkKind});
+      position = reference.nextOfName;
+    }
   }
+  if (references.size() < 2) return;
+  std::sort(references.begin(), references.end(),
+            [](const Reference& one, const Reference& other) { return one.position < other.position; });
 }
 
 void XMIParser::noteReferences(IdTable::Number id) {
