@@ -36,6 +36,8 @@ StoredNumbers::StoredNumbers(const KYRStoreModel& model, Listing listing) : mark
 
 unsigned int StoredNumbers::get(const KYRObject* object) const noexcept {
   if (object == nullptr) return 0;
-  const std::uint64_t number = object->scratch_;
-  return number >> numberBits == mark_ >> numberBits ? static_cast<unsigned int>(number) : 0;
+  const std::uint64_t kept = object->scratch_;
+  const auto number = static_cast<unsigned int>(kept);
+  if (objects_.empty()) return kept >> numberBits == mark_ >> numberBits ? number : 0;
+  return number != 0 && number <= objects_.size() && objects_[number - 1] == object ? number : 0;
 }

@@ -9,8 +9,8 @@
 class KYR_EXPORT StoredNumbers {
  public:
   enum class Listing { none, all };
-  /// Numbers all that the model holds, from 1. The model must not change while the numbers are used. Only
-  /// with `all` can an object be asked for by its number.
+  /// Numbers all that the model holds, from 1. The model must not change while the numbers are used. With
+  /// `all` an object can be asked for by its number; without, nobody else may number the model meanwhile.
   StoredNumbers(const KYRStoreModel& model, Listing listing);
   /// 0 for null and for an object that the model does not hold.
   unsigned int get(const KYRObject* object) const noexcept;
@@ -22,7 +22,7 @@ class KYR_EXPORT StoredNumbers {
   struct Numbering;
   // An object keeps its number itself, below the mark of the numbering it stems from. No mark is used
   // twice in a process but after two thousand million others, and none looks like a pointer, which may
-  // stand in the same place.
+  // stand in the same place. Numbers that are listed are told from others by the list.
   std::uint64_t mark_;
   unsigned int count_ = 0;
   std::vector<const KYRObject*> objects_;

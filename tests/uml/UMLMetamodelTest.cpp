@@ -109,6 +109,20 @@ TEST(UMLMetamodel, LinksHaveTheirNumbersNamesClassesAndEffects) {
   EXPECT_EQ(dump.str(), readGolden("links.txt"));
 }
 
+// The reader makes links while it reads, and keeps the order of those of one kind only.
+TEST(UMLMetamodel, EveryFieldIsFilledByLinksOfOneKind) {
+  std::set<void (*)(void*, void*)> fills;
+  std::size_t ends = 0;
+  for (const LinkRow& row : linkRows) {
+    for (const LinkEnd* end : {&row.first, &row.second}) {
+      if (end->fill == nullptr) continue;
+      fills.insert(end->fill);
+      ++ends;
+    }
+  }
+  EXPECT_EQ(fills.size(), ends);
+}
+
 TEST(UMLMetamodel, EveryFieldOfTheClassTreeIsInATable) {
   // golden: "UMLClass.ownedAttribute KYROrderedVector of UMLProperty"
   std::set<std::string> golden;
