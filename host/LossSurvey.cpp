@@ -47,7 +47,10 @@ void LossSurvey::wait() noexcept {
 }
 
 std::shared_ptr<const XmlDocument> LossSurvey::rewrite(const std::shared_ptr<const XmlDocument>& document) {
-  wait();  // a second reading of the file: the rules of the first use the normalizer
+  // An import reads its file more than once, and gets the same document each time as long as it lives.
+  if (surveyed_.lock() == document) return document;
+  wait();  // the file has changed meanwhile: the rules of the first reading use the normalizer
+  surveyed_ = document;
   std::packaged_task<std::shared_ptr<const XmlDocument>()> rules(
       [this, document] {
         std::shared_ptr<const XmlDocument> normalized = normalizer_.rewrite(document);
