@@ -55,7 +55,8 @@ KYRGeneralization* KYROmgUml2XmiImportBridge::createGeneralization(UMLElement* c
   auto generalization = std::make_unique<KYRGeneralization>();
   KYRGeneralization* const result = generalization.get();
   // Only a set has a name: a single generalization is no named element.
-  if (const UMLNamedElement* named = umlCast<UMLNamedElement>(cause)) result->takeName(shownText(named->name));
+  if (const UMLNamedElement* named = umlCast<UMLNamedElement>(cause))
+    result->takeName(shownText(named->name));
   if (cause->getKind() == UMLGeneralizationSet::kind) {
     result->sourceId = shownText(cause->id);
     objects.addRecord(result);

@@ -97,7 +97,9 @@ class Borrowed {
     bits_ = 0;
   }
   /// Pointer comparisons of the uniqueness test so far, those of short lists left out; see KYRVector.
-  std::uint64_t getComparisonCount() const noexcept { return isLong() ? longList()->getComparisonCount() : 0; }
+  std::uint64_t getComparisonCount() const noexcept {
+    return isLong() ? longList()->getComparisonCount() : 0;
+  }
 
   class Walk {
    public:
@@ -126,7 +128,8 @@ class Borrowed {
   static T* typed(const void* entry) noexcept { return static_cast<T*>(const_cast<void*>(entry)); }
   static std::uintptr_t number(const void* pointed) noexcept {
     const auto bits = reinterpret_cast<std::uintptr_t>(pointed);
-    assert((bits & marks) == 0);  // objects with a virtual table, and what was allocated, lie at such addresses
+    assert((bits & marks) ==
+           0);  // objects with a virtual table, and what was allocated, lie at such addresses
     return bits;
   }
   // NOLINTNEXTLINE(performance-no-int-to-ptr): a marked pointer is a number, that is the idea

@@ -136,6 +136,8 @@ void XMIParser::resolveLinks() {
   }
 }
 
+void XMIParser::Destroy::operator()(UMLElement* object) const noexcept { std::destroy_at(object); }
+
 void XMIParser::cleanUp() noexcept {
   const KYRPhaseTimer timer(KYRPhase::release);
   elementStack.clear();
@@ -147,9 +149,10 @@ void XMIParser::cleanUp() noexcept {
     UMLElement* const element = objects.at(i);
     for (UMLTaggedValue* const tag : element->taggedValues) delete tag;
     element->taggedValues.clear();
-    delete element;
+    std::destroy_at(element);
   }
   objects.empty();
+  objectMemory.release();
   model = nullptr;
   parser.reset();
   texts.reset();

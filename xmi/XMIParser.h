@@ -6,8 +6,8 @@
 // references that are left, attaches comments and runs the tool extension.
 //
 // Ownership: the parser owns every UML object and kind object, and holds the document whose texts they
-// show; all die with it, but for texts that somebody else keeps. A parser reads one file. Two parsers must not run at once in one process,
-// since the dispatch rows are shared.
+// show; all die with it, but for texts that somebody else keeps. A parser reads one file. Two parsers must
+// not run at once in one process, since the dispatch rows are shared.
 #pragma once
 
 #include <memory>
@@ -25,6 +25,7 @@
 #include "xmi/IdTable.h"
 #include "xmi/PendingLink.h"
 #include "xmi/TagHandler.h"
+#include "xmi/UMLObjectMemory.h"
 #include "xmi/UMLObjectTable.h"
 #include "xmi/UnknownTag.h"
 
@@ -95,6 +96,11 @@ class XMIParser {
     UMLElement* element;
     IdTable::Number id;
   };
+  /// An object in `objectMemory` that `objects` does not own yet.
+  struct Destroy {
+    void operator()(UMLElement* object) const noexcept;
+  };
+  using MadeObject = std::unique_ptr<UMLElement, Destroy>;
   /// A reference of the element being started.
   struct Reference {
     const KYRString* id;
@@ -127,10 +133,8 @@ class XMIParser {
   // What readers share. The attributes are those of the element being started.
   const KYRString& attribute(int name) const noexcept { return scan.get(name); }
   void readPlan(const ClassPlan& plan, const KYRString& tag);
-  static std::unique_ptr<UMLElement> makeObject(const ClassPlan& plan, const KYRString& id,
-                                                const KYRString& name);
-  void completeObject(const ClassPlan& plan, const KYRString& tag, std::unique_ptr<UMLElement> object,
-                      IdTable::Number id);
+  MadeObject makeObject(const ClassPlan& plan, const KYRString& id, const KYRString& name);
+  void completeObject(const ClassPlan& plan, const KYRString& tag, MadeObject object, IdTable::Number id);
   void readScalars(const ClassPlan& plan, UMLElement& element);
   void announceReferences(const ClassPlan& plan);
   void noteReferences(IdTable::Number id);
@@ -158,7 +162,8 @@ class XMIParser {
   KYRString text;
   std::vector<HandlerEntry> handlerStack;
   std::vector<Reference> references;
-  UMLObjectTable objects;  // owned
+  UMLObjectMemory objectMemory;
+  UMLObjectTable objects;  // owned, in objectMemory
   std::vector<PendingLink> pendingLinks;
   KYRString exporter;
   KYRString exporterVersion;

@@ -23,7 +23,8 @@ class KYR_EXPORT BackgroundSink : public BlockSink {
   void finish();
 
  private:
-  static constexpr std::size_t blockCount = 8;  // enough to go on for a while when the disk holds the thread up
+  static constexpr std::size_t blockCount =
+      8;  // enough to go on for a while when the disk holds the thread up
 
   void start();
   void run() noexcept;

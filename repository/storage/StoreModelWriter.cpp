@@ -13,7 +13,8 @@ namespace {
 
 class Saving {
  public:
-  Saving(const KYRStoreModel& model, StoreModelWriter& writer) : numbers_(model, StoredNumbers::Listing::none), writer_(writer) {}
+  Saving(const KYRStoreModel& model, StoreModelWriter& writer)
+      : numbers_(model, StoredNumbers::Listing::none), writer_(writer) {}
 
   void enter(const KYRObject& object, const StoredClass& stored) {
     writer_.beginObject(++entered_, stored.name);  // the numbers follow the walk

@@ -1,5 +1,6 @@
 // Resolving references: both ends, both orders, and what is dropped in silence.
 #include "tests/support/FailingAllocation.h"
+#include "tests/support/MadeElement.h"
 #include "tests/xmi/Reading.h"
 #include "xmi/ReadObserver.h"
 
@@ -174,10 +175,6 @@ TEST(Linker, KindsOutOfRangeDoNothing) {
 TEST(Linker, EveryKindFillsItsEndsInBothOrders) {
   RecordingLog log;
   XMIParser parser(&log);
-  const auto make = [](int kind) {
-    return std::unique_ptr<UMLElement>(
-        UMLMetamodel::classRows[static_cast<std::size_t>(kind)].make("id", "name"));
-  };
   int kind = 0;
   int sameClass = 0;
   for (const UMLMetamodel::LinkRow& row : UMLMetamodel::linkRows) {
@@ -190,8 +187,8 @@ TEST(Linker, EveryKindFillsItsEndsInBothOrders) {
                               UMLLineage::isKindOf(row.second.owner, row.first.owner);
     if (fitsBothWays) ++sameClass;
     for (const bool swapped : {false, true}) {
-      const auto first = make(row.first.owner);
-      const auto second = make(row.second.owner);
+      const auto first = madeElement(row.first.owner);
+      const auto second = madeElement(row.second.owner);
       EXPECT_TRUE(swapped ? parser.linkRelationship(second.get(), first.get(), kind)
                           : parser.linkRelationship(first.get(), second.get(), kind));
       UMLElement* const inFirst = swapped && fitsBothWays ? second.get() : first.get();

@@ -61,7 +61,7 @@ void XMIParser::readModel(const TagHandler& row, const KYRString& tag, const KYR
   const KYRString& xmiId = attribute(names.id);
   const KYRString& id = xmiId.isEmpty() ? name : xmiId;
   announceReferences(*row.plan);
-  std::unique_ptr<UMLElement> object = makeObject(*row.plan, id, name);
+  MadeObject object = makeObject(*row.plan, id, name);
   patchRow();
   // A second model element takes the place of the first as the result.
   model = umlCast<UMLModel>(object.get());
@@ -95,20 +95,20 @@ void XMIParser::readPlan(const ClassPlan& plan, const KYRString& tag) {
   const KYRString& id = attribute(names.id);
   const std::uint32_t hash = ids.announce(id);
   announceReferences(plan);
-  std::unique_ptr<UMLElement> object = makeObject(plan, id, attribute(names.name));
+  MadeObject object = makeObject(plan, id, attribute(names.name));
   patchRow();
   for (const Reference& reference : references) ids.approach(reference.hash);
   completeObject(plan, tag, std::move(object), ids.intern(id, hash));
 }
 
-std::unique_ptr<UMLElement> XMIParser::makeObject(const ClassPlan& plan, const KYRString& id,
-                                                  const KYRString& name) {
+XMIParser::MadeObject XMIParser::makeObject(const ClassPlan& plan, const KYRString& id,
+                                            const KYRString& name) {
   const UMLMetamodel::ClassRow& row = UMLMetamodel::classRows[static_cast<unsigned int>(plan.kind)];
-  return std::unique_ptr<UMLElement>(row.make(keep(id), keep(name)));
+  return MadeObject(row.makeAt(objectMemory.allocate(row.size), keep(id), keep(name)));
 }
 
-void XMIParser::completeObject(const ClassPlan& plan, const KYRString& tag,
-                               std::unique_ptr<UMLElement> object, IdTable::Number id) {
+void XMIParser::completeObject(const ClassPlan& plan, const KYRString& tag, MadeObject object,
+                               IdTable::Number id) {
   for (const Reference& reference : references) ids.approachText(reference.hash);
   readScalars(plan, *object);
   UMLElement* const element = object.get();
