@@ -22,7 +22,7 @@ class ShortPointerList {
   static ShortPointerList* larger(const ShortPointerList* list) {
     // With its frame each of them fills a size in which allocators hand out memory.
     const std::uint32_t count = list == nullptr ? 0 : list->count_;
-    const std::uint32_t capacity = count < 5 ? 5 : count < 11 ? 11 : highestCount;
+    const std::uint32_t capacity = count < 3 ? 3 : count < 7 ? 7 : highestCount;
     void* const place = ::operator new(sizeof(ShortPointerList) + capacity * sizeof(const void*));
     auto* const made = new (place) ShortPointerList(capacity);
     for (std::uint32_t i = 0; i < count; ++i) made->append(list->at(i));
