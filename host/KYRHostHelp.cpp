@@ -170,6 +170,12 @@ const HostText<0> REPORT_HELP_MESSAGES(
     "REPORT_HELP_MESSAGES",
     "Show what the import said, which is in this file: the one of 'kyr import --log-file'");
 
+const HostText<0> REPORT_HELP_LAYOUT(
+    "REPORT_HELP_LAYOUT",
+    "Who places the boxes of the picture around a class. graphviz: the program 'dot' of Graphviz, with a "
+    "warning where it is missing; simple: the page itself; auto: 'dot' where it is installed. Without it: "
+    "auto");
+
 const HostText<0> NORMALIZE_HELP(
     "NORMALIZE_HELP",
     "Write a model file as 'kyr import --normalize' would read it.\n"

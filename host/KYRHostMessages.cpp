@@ -61,6 +61,8 @@ const HostMessage<1> KYRHostMessages::MODEL_NOT_IMPORTED(
     52, fatal, "'{0}' is XML and no saved model; 'kyr import' makes one of a model file");
 const HostMessage<1> KYRHostMessages::MODEL_IS_DATABASE(
     53, fatal, "'{0}' is a database; what is wanted is the JSON file that 'kyr import -o NAME.json' writes");
+const HostMessage<1> KYRHostMessages::PICTURES_NOT_LAID_OUT(
+    54, warning, "Graphviz does not lay out the pictures around the classes, so the page does: {0}");
 const HostMessage<2> KYRHostMessages::NO_FOLDER(
     30, fatal, "The model cannot be written to '{0}': there is no folder '{1}'");
 const HostMessage<0> KYRHostMessages::APPEND_NEEDS_SQLITE(

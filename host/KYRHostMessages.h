@@ -36,6 +36,7 @@ class KYRHostMessages final : public KYRTextLiteralsCollection {
   // The page of a model.
   static const HostMessage<1> PAGE_IS_MODEL;
   static const HostMessage<1> PAGE_IS_LOG;
+  static const HostMessage<1> PICTURES_NOT_LAID_OUT;
   // The output of an import.
   static const HostMessage<2> NO_FOLDER;
   static const HostMessage<0> APPEND_NEEDS_SQLITE;
