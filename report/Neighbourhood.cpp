@@ -27,6 +27,8 @@ constexpr double narrowPart = 0.6;
 constexpr double wideLetter = 12.5;  // of the scripts of East Asia and beyond
 constexpr int boxHeight = 34;
 constexpr int rowHeight = 16;
+constexpr int boxGap = 13;
+constexpr int widestRow = 1000;  // what a page has room for without making letters small
 constexpr int mostAttributes = 8;
 constexpr double arrow = 14;  // tells to which end a text belongs
 
@@ -92,16 +94,30 @@ class Gathering {
     gatherAssociations();
     gatherDependencies();
     if (result_.lines.empty()) return {};
-    // Lines with text at them need their room at the side.
-    const auto vertical = std::count_if(result_.lines.begin(), result_.lines.end(), [](const auto& line) {
-      return line.tie == Neighbourhood::Tie::generalization || line.tie == Neighbourhood::Tie::realization;
-    });
-    result_.isUpright = static_cast<std::size_t>(vertical) * 2 > result_.lines.size();
+    result_.isUpright = isInheritance() && widthOfRows() <= widestRow;
     return std::move(result_);
   }
 
  private:
   using Tie = Neighbourhood::Tie;
+
+  // Whether there are more ties of super- and subtypes than others, whose texts need room at the side.
+  bool isInheritance() const {
+    const auto inherited = std::count_if(result_.lines.begin(), result_.lines.end(), [](const auto& line) {
+      return line.tie == Tie::generalization || line.tie == Tie::realization;
+    });
+    return static_cast<std::size_t>(inherited) * 2 > result_.lines.size();
+  }
+
+  // Of the longer one when what stands before the class is above it, and the rest below.
+  int widthOfRows() const {
+    int widths[2] = {0, 0};
+    for (const Neighbourhood::Line& line : result_.lines) {
+      const unsigned int other = std::max(line.first, line.second);
+      widths[line.first == 0 ? 1 : 0] += result_.boxes[other].width + boxGap + line.textWidth;
+    }
+    return std::max(widths[0], widths[1]);
+  }
 
   // False when enough has been looked at.
   bool look() { return ++lookedAt_ <= Neighbourhood::mostLookedAt; }

@@ -7,6 +7,7 @@
 // looked at.
 #pragma once
 
+#include <cstddef>
 #include <vector>
 
 #include "repository/model/KYRClass.h"

@@ -162,6 +162,15 @@ TEST_F(NeighbourhoodTest, BoxesAreAsLargeAsTheirTextsUpToALimit) {
   EXPECT_EQ(neighbourhood.boxes[3].width, 6 * 12.5 + 17);
 }
 
+TEST_F(NeighbourhoodTest, WhereARowWouldBeTooWideItStandsAtTheSide) {
+  KYRClass& own = model.addClass("A");
+  for (int i = 0; i < 8; ++i) model.inherit(own, model.addClass("B" + std::to_string(i)));
+  EXPECT_TRUE(around(own).isUpright);
+  KYRClass& wide = model.addClass("C");
+  for (int i = 0; i < 8; ++i) model.inherit(wide, model.addClass("ALongNameOfAClass" + std::to_string(i)));
+  EXPECT_FALSE(around(wide).isUpright);
+}
+
 TEST_F(NeighbourhoodTest, APictureOfInheritanceStandsUpright) {
   KYRClass& own = model.addClass("A");
   KYRClass& other = model.addClass("B");
