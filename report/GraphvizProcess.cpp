@@ -55,7 +55,7 @@ std::string GraphvizProcess::findProgram() {
   while (!rest.empty()) {
     const std::string_view folder = rest.substr(0, rest.find(':'));
     rest.remove_prefix(std::min(folder.size() + 1, rest.size()));
-    const std::string program = std::string(folder) + "/dot";
+    std::string program = std::string(folder) + "/dot";
     if (folder.starts_with('/') && isProgram(program)) return program;
   }
   return std::string();

@@ -16,7 +16,7 @@
 
 namespace {
 
-using Outcome = NeighbourhoodPictures::Outcome;
+using Laid = NeighbourhoodPictures::Outcome;
 using std::chrono::milliseconds;
 
 // Answers each graph of two boxes and a line without text: the class first asked has the line to the other.
@@ -42,9 +42,9 @@ class NeighbourhoodPicturesTest : public testing::Test {
       before = &next;
     }
   }
-  Outcome layOut(const std::string& script, unsigned int mode = 0755) {
+  Laid layOut(const std::string& script, unsigned int mode = 0755) {
     const FakeProgram program(script, mode);
-    const Outcome outcome = pictures.layOut(model.get(), program.path, bounds);
+    const Laid outcome = pictures.layOut(model.get(), program.path, bounds);
     EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1);
     EXPECT_EQ(errno, ECHILD) << "a child is left";
     return outcome;
@@ -54,7 +54,8 @@ class NeighbourhoodPicturesTest : public testing::Test {
     document.Parse(pictures.getJson().c_str());
     std::vector<std::string> ids;
     if (document.HasParseError()) return ids;
-    for (const auto& member : document.GetObject()) ids.emplace_back(member.name.GetString());
+    const rapidjson::Value& all = document;
+    for (const auto& member : all.GetObject()) ids.emplace_back(member.name.GetString());
     return ids;
   }
 
@@ -68,30 +69,30 @@ class NeighbourhoodPicturesTest : public testing::Test {
 TEST_F(NeighbourhoodPicturesTest, EachTiedClassHasAPicture) {
   tie(4);
   model.addClass("Alone");
-  EXPECT_EQ(layOut(willing), Outcome::done);
+  EXPECT_EQ(layOut(willing), Laid::done);
   EXPECT_EQ(pictured().size(), 4U);
 }
 
 TEST_F(NeighbourhoodPicturesTest, AModelWithoutTiesStartsNoProgram) {
   model.addClass("Alone");
-  EXPECT_EQ(pictures.layOut(model.get(), "/nowhere/dot"), Outcome::done);
+  EXPECT_EQ(pictures.layOut(model.get(), "/nowhere/dot"), Laid::done);
   EXPECT_EQ(pictures.getJson(), "");
 }
 
 TEST_F(NeighbourhoodPicturesTest, ManyClassesAreOneConversation) {
   tie(4000);
-  EXPECT_EQ(layOut(willing), Outcome::done);
+  EXPECT_EQ(layOut(willing), Laid::done);
   EXPECT_EQ(pictured().size(), 4000U);
 }
 
 TEST_F(NeighbourhoodPicturesTest, BehindTheBoundClassesHaveNoPicture) {
   tie(10);
   bounds.mostLines = 7;
-  EXPECT_EQ(layOut(willing), Outcome::done);
+  EXPECT_EQ(layOut(willing), Laid::done);
   const std::vector<std::string> first = pictured();
   EXPECT_EQ(first.size(), 7U);
   bounds.mostLines = 0;
-  EXPECT_EQ(layOut(willing), Outcome::done);
+  EXPECT_EQ(layOut(willing), Laid::done);
   EXPECT_EQ(pictures.getJson(), "");
 }
 
@@ -103,29 +104,29 @@ TEST_F(NeighbourhoodPicturesTest, AProgramThatFailsLeavesNoPictures) {
   const struct {
     const char* what;
     std::string script;
-    Outcome outcome;
+    Laid outcome;
   } rows[] = {
-      {"ends at once", "#!/bin/sh\nexit 0\n", Outcome::ended},
-      {"fails", "#!/bin/sh\nexit 1\n", Outcome::ended},
-      {"crashes", "#!/bin/sh\nkill -SEGV $$\n", Outcome::ended},
+      {"ends at once", "#!/bin/sh\nexit 0\n", Laid::ended},
+      {"fails", "#!/bin/sh\nexit 1\n", Laid::ended},
+      {"crashes", "#!/bin/sh\nkill -SEGV $$\n", Laid::ended},
       {"is no program",
        "\x7f"
        "ELF",
-       Outcome::ended},
-      {"answers one", "#!/bin/sh\n" + one, Outcome::ended},
-      {"answers one and crashes", "#!/bin/sh\n" + one + "kill -ABRT $$\n", Outcome::ended},
-      {"cuts its answer", "#!/bin/sh\nprintf 'graph 1 3'\n", Outcome::ended},
-      {"says nothing and reads all", "#!/bin/sh\ncat > /dev/null\n", Outcome::ended},
-      {"echoes", "#!/bin/sh\nexec cat\n", Outcome::notUnderstood},
-      {"greets", "#!/bin/sh\necho hello\nsleep 1000\n", Outcome::notUnderstood},
-      {"repeats itself", "#!/bin/sh\nwhile echo 'graph 1 3 2'; do :; done\n", Outcome::notUnderstood},
-      {"knows no line ends", "#!/bin/sh\nexec cat /dev/zero\n", Outcome::notUnderstood},
-      {"hangs", "#!/bin/sh\nsleep 1000\n", Outcome::late},
-      {"answers one and hangs", "#!/bin/sh\n" + one + "sleep 1000\n", Outcome::late},
-      {"closes its input", "#!/bin/sh\nexec <&-\nsleep 1000\n", Outcome::late},
+       Laid::ended},
+      {"answers one", "#!/bin/sh\n" + one, Laid::ended},
+      {"answers one and crashes", "#!/bin/sh\n" + one + "kill -ABRT $$\n", Laid::ended},
+      {"cuts its answer", "#!/bin/sh\nprintf 'graph 1 3'\n", Laid::ended},
+      {"says nothing and reads all", "#!/bin/sh\ncat > /dev/null\n", Laid::ended},
+      {"echoes", "#!/bin/sh\nexec cat\n", Laid::notUnderstood},
+      {"greets", "#!/bin/sh\necho hello\nsleep 1000\n", Laid::notUnderstood},
+      {"repeats itself", "#!/bin/sh\nwhile echo 'graph 1 3 2'; do :; done\n", Laid::notUnderstood},
+      {"knows no line ends", "#!/bin/sh\nexec cat /dev/zero\n", Laid::notUnderstood},
+      {"hangs", "#!/bin/sh\nsleep 1000\n", Laid::late},
+      {"answers one and hangs", "#!/bin/sh\n" + one + "sleep 1000\n", Laid::late},
+      {"closes its input", "#!/bin/sh\nexec <&-\nsleep 1000\n", Laid::late},
   };
   for (const auto& row : rows) {
-    bounds.patience.untilNextSign = milliseconds(row.outcome == Outcome::late ? 300 : 60000);
+    bounds.patience.untilNextSign = milliseconds(row.outcome == Laid::late ? 300 : 60000);
     EXPECT_EQ(layOut(row.script), row.outcome) << row.what;
     EXPECT_EQ(pictures.getJson(), "") << row.what;
   }
@@ -133,20 +134,20 @@ TEST_F(NeighbourhoodPicturesTest, AProgramThatFailsLeavesNoPictures) {
 
 TEST_F(NeighbourhoodPicturesTest, OneThatIsNotExecutableHasEnded) {
   tie(2);
-  EXPECT_EQ(layOut("#!/bin/sh\n", 0644), Outcome::ended);
-  EXPECT_EQ(pictures.layOut(model.get(), "/nowhere/dot"), Outcome::ended);
+  EXPECT_EQ(layOut("#!/bin/sh\n", 0644), Laid::ended);
+  EXPECT_EQ(pictures.layOut(model.get(), "/nowhere/dot"), Laid::ended);
 }
 
 TEST_F(NeighbourhoodPicturesTest, OneThatAnswersAndStaysIsNotWaitedFor) {
   tie(4);
-  EXPECT_EQ(layOut(std::string(willing) + "sleep 1000\n"), Outcome::done);
+  EXPECT_EQ(layOut(std::string(willing) + "sleep 1000\n"), Laid::done);
   EXPECT_EQ(pictured().size(), 4U);
 }
 
 namespace {
 
 // What is left of the model's names when they are a matter of the page alone: all hostile ones.
-const std::string hostileNames[] = {
+const std::string namesThatMeanHarm[] = {
     "\"];}digraph{0->1;}",  "a\\nb\\",     "line\nline\r\n",         "\x01\x1b[2J",
     std::string("n\0l", 3), "</script><>", std::string(1000000, 'W')};
 
@@ -156,7 +157,7 @@ class RealGraphviz : public NeighbourhoodPicturesTest {
     program_ = GraphvizProcess::findProgram();
     if (program_.empty()) GTEST_SKIP() << "Graphviz is not installed: scripts/install-deps.sh graphviz";
   }
-  Outcome layOutReally() { return pictures.layOut(model.get(), program_, bounds); }
+  Laid layOutReally() { return pictures.layOut(model.get(), program_, bounds); }
   std::vector<std::int64_t> pictureOf(const KYRClass& class_) const {
     const StoredNumbers numbers(model.get());
     rapidjson::Document document;
@@ -174,7 +175,7 @@ TEST_F(RealGraphviz, SupertypesStandAboveSubtypes) {
   KYRClass& super = model.addClass("Vessel");
   KYRClass& sub = model.addClass("Barrel");
   model.inherit(super, sub);
-  ASSERT_EQ(layOutReally(), Outcome::done);
+  ASSERT_EQ(layOutReally(), Laid::done);
   const std::vector<std::int64_t> picture = pictureOf(sub);
   // size, direction, own height, two boxes of four numbers each: the own one first
   EXPECT_EQ(picture[2], 1);
@@ -198,19 +199,19 @@ TEST_F(RealGraphviz, EveryKindOfTieIsLaidOut) {
   model.realize(other, own);
   model.depend(own, other);
   model.depend(own, own);
-  ASSERT_EQ(layOutReally(), Outcome::done);
+  ASSERT_EQ(layOutReally(), Laid::done);
   EXPECT_EQ(pictured().size(), 2U);
 }
 
 TEST_F(RealGraphviz, NamesDoNoHarm) {
   KYRClass& hub = model.addClass("Hub");
-  for (const std::string& name : hostileNames) {
+  for (const std::string& name : namesThatMeanHarm) {
     KYRClass& other = model.addClass(name);
     model.associate(hub, other, name, name);
     model.inherit(other, hub);
   }
-  ASSERT_EQ(layOutReally(), Outcome::done);
-  EXPECT_EQ(pictured().size(), 1 + std::size(hostileNames));
+  ASSERT_EQ(layOutReally(), Laid::done);
+  EXPECT_EQ(pictured().size(), 1 + std::size(namesThatMeanHarm));
   EXPECT_LT(pictures.getJson().size(), 4000U);
 }
 
@@ -221,9 +222,9 @@ TEST_F(RealGraphviz, TheSameModelGivesTheSamePictures) {
     model.associate(hub, other, "hub", "others");
     model.depend(other, hub);
   }
-  ASSERT_EQ(layOutReally(), Outcome::done);
+  ASSERT_EQ(layOutReally(), Laid::done);
   const std::string first = pictures.getJson();
-  ASSERT_EQ(layOutReally(), Outcome::done);
+  ASSERT_EQ(layOutReally(), Laid::done);
   EXPECT_EQ(pictures.getJson(), first);
   EXPECT_EQ(pictured().size(), 301U);
 }

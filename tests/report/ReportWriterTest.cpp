@@ -61,8 +61,8 @@ const char* const hostileNames[] = {
     "<!--<script>",
     "</SCRIPT\n><img src=x onerror=alert(1)>",
     "\"'`${alert(1)}&lt;/script&gt;]]>",
-    "\xE2\x80\xAE"
-    "evil\xE2\x81\xA6\xEF\xBB\xBF",
+    ("\xE2\x80\xAE"
+     "evil\xE2\x81\xA6\xEF\xBB\xBF"),
     "not \xFF\xC0\xAF UTF-8",
 };
 
