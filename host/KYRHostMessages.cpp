@@ -68,6 +68,9 @@ const HostMessage<2> KYRHostMessages::NO_FOLDER(
 const HostMessage<0> KYRHostMessages::APPEND_NEEDS_SQLITE(
     31, fatal, "'--append' adds to a file of the format sqlite; '--format' names another one");
 
+const HostMessage<0> KYRHostMessages::DATABASE_TO_OUTPUT(
+    38, fatal, "A database cannot be written to the standard output; '-o' names a file for it");
+
 const HostMessage<1> KYRHostMessages::OUTPUT_NOT_A_FOLDER(
     32, fatal, "For several files '-o' names a folder that is there; '{0}' is none");
 const HostMessage<3> KYRHostMessages::OUTPUTS_CLASH(

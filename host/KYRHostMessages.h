@@ -40,6 +40,7 @@ class KYRHostMessages final : public KYRTextLiteralsCollection {
   // The output of an import.
   static const HostMessage<2> NO_FOLDER;
   static const HostMessage<0> APPEND_NEEDS_SQLITE;
+  static const HostMessage<0> DATABASE_TO_OUTPUT;
   // The normalising step.
   static const HostMessage<0> TOOL_NAME_FOUND;
   static const HostMessage<1> ATTRIBUTE_RINGS;
