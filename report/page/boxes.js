@@ -1,7 +1,7 @@
 // What all pictures around a class are made of: boxes, texts that fit, and the ends of lines.
 
 const around = {
-  boxWidth: 200, boxHeight: 34, ownWidth: 220, rowHeight: 54, gap: 280, level: 64, mostAbove: 5, mostBeside: 8, mostAttributes: 8, lineHeight: 16,
+  boxWidth: 200, boxHeight: 34, ownWidth: 220, rowHeight: 54, gap: 280, level: 64, mostAbove: 5, mostBeside: 8, mostAttributes: 8, lineHeight: 16, smallest: 0.65,
 };
 
 // The box of the class itself, with its first attributes.

@@ -26,8 +26,10 @@ class Neighbourhood {
   svg({ shapes, left, top, width, height }) {
     const svg = draw("svg", { viewBox: [left, top, width, height].join(" "), role: "group",
       "aria-label": "Neighbourhood of " + plain(shorten(nameOf(this.class_), longestName)) }, shapes);
-    // As large as it was laid out, and smaller where there is no room.
+    // As large as it was laid out, and smaller where there is no room, down to letters that can still be read:
+    // then it can be scrolled.
     svg.style.maxWidth = width + "px";
+    svg.style.minWidth = width * around.smallest + "px";
     return svg;
   }
 

@@ -318,6 +318,22 @@ check("a narrow window has the tree behind a button", async (page) => {
   assert.equal(over, 0);
 }, { viewport: { width: 380, height: 800 } });
 
+for (const name of withGraphviz("tied")) {
+  check("a picture in a narrow window can be read, and scrolled; paper has all of it, " + name, async (page) => {
+    await open(page, name, "class/P/Employee");
+    const measure = () => page.locator(".around svg").evaluate((svg) => ({
+      scale: svg.getBoundingClientRect().width / svg.viewBox.baseVal.width, room: svg.parentNode.clientWidth,
+      width: svg.getBoundingClientRect().width, over: document.documentElement.scrollWidth - document.documentElement.clientWidth,
+    }));
+    const shown = await measure();
+    assert.ok(shown.scale >= 0.649 && shown.width > shown.room, JSON.stringify(shown));
+    assert.equal(shown.over, 0);
+    await page.emulateMedia({ media: "print" });
+    const printed = await measure();
+    assert.ok(printed.width <= printed.room, JSON.stringify(printed));
+  }, { viewport: { width: 380, height: 800 } });
+}
+
 check("light and dark follow the system and the button", async (page) => {
   const ground = () => page.evaluate(() => getComputedStyle(document.body).backgroundColor);
   await page.emulateMedia({ colorScheme: "dark" });
