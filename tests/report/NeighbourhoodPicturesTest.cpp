@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <rapidjson/document.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 
 #include <cerrno>
@@ -136,6 +137,20 @@ TEST_F(NeighbourhoodPicturesTest, OneThatIsNotExecutableHasEnded) {
   tie(2);
   EXPECT_EQ(layOut("#!/bin/sh\n", 0644), Laid::ended);
   EXPECT_EQ(pictures.layOut(model.get(), "/nowhere/dot"), Laid::ended);
+}
+
+TEST_F(NeighbourhoodPicturesTest, WhereTheSystemHasNoMoreFilesNoneIsStarted) {
+  tie(2);
+  const FakeProgram program(willing);
+  rlimit before = {};
+  ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &before), 0);
+  rlimit none = before;
+  none.rlim_cur = 0;
+  ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &none), 0);
+  const Laid outcome = pictures.layOut(model.get(), program.path);
+  setrlimit(RLIMIT_NOFILE, &before);
+  EXPECT_EQ(outcome, Laid::notStarted);
+  EXPECT_EQ(pictures.getJson(), "");
 }
 
 TEST_F(NeighbourhoodPicturesTest, OneThatAnswersAndStaysIsNotWaitedFor) {
