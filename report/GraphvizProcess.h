@@ -13,9 +13,10 @@
 
 class GraphvizProcess {
  public:
+  /// Long enough for a machine that is busy with other things: a page must not depend on that.
   struct Patience {
-    std::chrono::milliseconds untilNextSign{10000};
-    std::chrono::milliseconds inAll{120000};
+    std::chrono::milliseconds untilNextSign{20000};
+    std::chrono::milliseconds inAll{300000};
   };
   enum class Outcome { moved, late, ended };
 
