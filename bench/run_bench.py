@@ -81,6 +81,8 @@ class Bench:
         self.kyr = arguments.kyr or str(build / "bin" / "kyr")
         self.generator = arguments.generator or str(build / "bench" / "kyr-generate")
         self.baseline = arguments.baseline or str(build / "bench" / "kyr-expat-baseline")
+        self.import_only = str(build / "bench" / "kyr-import-only")
+        self.plugin = str(build / "lib" / "kyr" / "libKYROmgUml2XmiImport.so")
         self.folder = Path(folder)
         # A child's peak starts at what this interpreter had when it forked.
         self.floor = Run(["true"]).peak
@@ -115,6 +117,10 @@ class Bench:
         target = self.folder / output
         return self.best_of([self.kyr, "import", str(path), "-o", str(target),
                              "--modification-time", MODIFICATION_TIME, "--quiet"], target)
+
+    def import_only_run(self, path):
+        """An import that saves nothing."""
+        return self.best_of([self.import_only, self.plugin, str(path)])
 
     def inspect_run(self, path):
         return self.best_of([self.kyr, "inspect", "--quick", str(path)])
@@ -154,8 +160,8 @@ def error_of(run):
 def bench_sizes(bench, kinds, sizes):
     """The table of kinds and sizes, and where the time goes; the number of failed imports."""
     heads = ("file", "MB", "expat s", "import s", "ratio", "MB/s", "peak/size", "growth expat", "growth import",
-             "sqlite s", "ratio", "inspect s", "ratio")
-    widths = (12, 7, 8, 8, 6, 7, 9, 12, 13, 8, 6, 9, 6)
+             "sqlite s", "ratio", "unsaved s", "ratio", "inspect s", "ratio")
+    widths = (12, 7, 8, 8, 6, 7, 9, 12, 13, 8, 6, 9, 6, 9, 6)
     print_row(heads, widths)
     failed = 0
     phases = []
@@ -177,7 +183,8 @@ def bench_sizes(bench, kinds, sizes):
                 factor = (megabytes / before[0]) / 10
                 growth = (f"{expat / before[1] / factor:.1f}", f"{run.seconds / before[2] / factor:.1f}")
             others = []
-            for other in (bench.import_run(path, "output.sqlite"), bench.inspect_run(path)):
+            for other in (bench.import_run(path, "output.sqlite"), bench.import_only_run(path),
+                          bench.inspect_run(path)):
                 others += [f"{other.seconds:.3f}", f"{other.seconds / expat:.2f}"]
             print_row((kind, f"{megabytes:.1f}", f"{expat:.3f}", f"{run.seconds:.3f}",
                        f"{run.seconds / expat:.2f}", f"{megabytes / run.seconds:.1f}",

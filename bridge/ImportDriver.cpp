@@ -7,6 +7,7 @@
 #include "foundation/KYRException.h"
 #include "foundation/KYROption.h"
 #include "foundation/KYRPhaseTimes.h"
+#include "foundation/MemoryAtEnd.h"
 #include "repository/KYRRepositoryMessages.h"
 #include "repository/bridgelib/KYRBridgeLib.h"
 #include "repository/datatypes/KYRDataTypeConverter.h"
@@ -56,16 +57,21 @@ int KYROmgUml2XmiImportBridge::importModel(KYRStoreModel& model, KYROptionList& 
   auto parser = std::make_unique<XMIParser>(log);
   importParsed(*parser);
   // What comes now, the saving above all, needs no UML object.
-  if (parser->getObjects().getCount() >= worthAThread) parserRelease_.give(std::move(parser));
+  if (MemoryAtEnd::isLeftToSystem()) {
+    MemoryAtEnd::give(std::move(parser));
+  } else if (parser->getObjects().getCount() >= worthAThread) {
+    parserRelease_.give(std::move(parser));
+  }
   return 1;
 }
 
 void KYROmgUml2XmiImportBridge::importParsed(XMIParser& parser) {
   ImportTrace trace(KYRImportTrace::getCurrent(), parser);
   umlModel = parser.parse(file);
-  parser.dropLinks();
+  storeModel->keepTexts(parser.getTexts());
   stepLimit = stepsForAnyFile + stepsForOneElement * parser.getObjects().getCount();
   loadDom();
+  parser.dropReading();
   if (umlModel != nullptr) {
     const KYRPhaseTimer timer(KYRPhase::convert);
     convertModel();

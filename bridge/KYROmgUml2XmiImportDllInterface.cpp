@@ -8,6 +8,7 @@
 #include "foundation/KYRDate.h"
 #include "foundation/KYRFile.h"
 #include "foundation/KYROption.h"
+#include "foundation/MemoryAtEnd.h"
 #include "repository/bridgelib/KYRBridgeLib.h"
 #include "repository/datatypes/KYRDataTypeConstants.h"
 #include "repository/model/KYRStoreModel.h"
@@ -65,11 +66,12 @@ KYRString KYROmgUml2XmiImportDllInterface::getMappingSpecificationXmlFile() { re
 
 bool KYROmgUml2XmiImportDllInterface::run(const KYRString& originId, KYRFile& outputFile,
                                           KYROptionList& options, KYRLog& log) {
-  KYRStoreModel storeModel;
+  auto storeModel = std::make_unique<KYRStoreModel>();
   KYROmgUml2XmiImportBridge bridge(&log);
-  const int result = bridge.importModel(storeModel, options, originId);
-  setModelModificationTime(storeModel, options);
-  saveStoreModel(outputFile, storeModel, log);
+  const int result = bridge.importModel(*storeModel, options, originId);
+  setModelModificationTime(*storeModel, options);
+  saveStoreModel(outputFile, *storeModel, log);
+  MemoryAtEnd::give(std::move(storeModel));
   return result != 0;
 }
 

@@ -39,6 +39,7 @@ void KYROmgUml2XmiImportBridge::release() noexcept {
   recordsByElement_.clear();
   schemasByName_.clear();
   baseTypes_.clear();
+  derivedTypes_.clear();
   enumerationPasses_.clear();
   rolesByFarName_.clear();
   while (!associationClasses.empty()) associationClasses.pop_back();

@@ -1,6 +1,7 @@
 // Associations. An end that cannot be tied to a class is dropped, and an association left with fewer
 // than two ends is dropped with it, without a trace.
 #include "bridge/state/KYROmgUml2XmiImportBridge.h"
+#include "bridge/state/ShownText.h"
 #include "repository/bridgelib/KYRBridgeLib.h"
 #include "repository/model/KYRAssociation.h"
 #include "repository/model/KYRAssociationRole.h"
@@ -22,7 +23,7 @@ KYRClass* endClass(const UMLProperty& end) {
   if (kind != UMLClass::kind && kind != UMLAssociationClass::kind && kind != UMLInterface::kind) {
     return nullptr;
   }
-  return dynamic_cast<KYRClass*>(end.type->repositoryObject);
+  return KYRClass::from(end.type->repositoryObject);
 }
 
 int lowerBound(const UMLProperty& end) {
@@ -84,8 +85,8 @@ void KYROmgUml2XmiImportBridge::convertAssociation(UMLAssociation* element) {
     record->class_->addAssociation(association.get());
     association->sourceId = element->id + associationSuffix;
   } else {
-    if (!element->name.isEmpty()) association->setName(element->name);
-    association->sourceId = element->id;
+    if (!element->name.isEmpty()) association->takeName(shownText(element->name));
+    association->sourceId = shownText(element->id);
     applyElementMetadata(association.get(), element);
   }
   objects.addRecord(association.get());
@@ -98,8 +99,8 @@ std::unique_ptr<KYRAssociationRole> KYROmgUml2XmiImportBridge::convertAssociatio
   if (target == nullptr) return nullptr;
   auto role = std::make_unique<KYRAssociationRole>();
   role->addAssociatedClass(target);
-  if (!element->name.isEmpty()) role->setName(element->name);
-  role->sourceId = element->id;
+  if (!element->name.isEmpty()) role->takeName(shownText(element->name));
+  role->sourceId = shownText(element->id);
   role->multiplicity = multiplicityOf(*element);
   role->isOrdered = element->isOrdered;
   if (const UMLVisibilityKind* visibility = element->UMLNamedElement::visibility) {

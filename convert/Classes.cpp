@@ -1,5 +1,6 @@
 // Classes and interfaces.
 #include "bridge/state/KYROmgUml2XmiImportBridge.h"
+#include "bridge/state/ShownText.h"
 #include "repository/model/KYRAttribute.h"
 #include "repository/model/KYRClass.h"
 #include "repository/model/KYRDesignPackage.h"
@@ -12,7 +13,7 @@
 void KYROmgUml2XmiImportBridge::convertClass(UMLClass* element, KYRDesignPackage* package) {
   if (element->isBoundary) return;  // a frame drawn around others
   auto target = std::make_unique<KYRClass>();
-  target->setName(element->name);
+  target->takeName(shownText(element->name));
   target->isPhysicalClass = false;
   target->isAbstract = element->UMLClass::isAbstract;
   completeClass(target.get(), element);
@@ -37,7 +38,7 @@ void KYROmgUml2XmiImportBridge::convertClass(UMLClass* element, KYRDesignPackage
 void KYROmgUml2XmiImportBridge::convertInterface(UMLInterface* element, KYRDesignPackage* package) {
   if (package == nullptr) return;  // unlike a class, an interface at the top makes no root package
   auto target = std::make_unique<KYRClass>();
-  target->setName(element->name);
+  target->takeName(shownText(element->name));
   target->isPhysicalClass = false;
   target->isAbstract = element->UMLClassifier::isAbstract;
   target->classCategory = KYRClassCategoryType::interface_;
@@ -50,7 +51,7 @@ void KYROmgUml2XmiImportBridge::convertInterface(UMLInterface* element, KYRDesig
 
 // Id, visibility, metadata and links: the same for both.
 void KYROmgUml2XmiImportBridge::completeClass(KYRClass* target, UMLClassifier* element) {
-  target->sourceId = element->id;
+  target->sourceId = shownText(element->id);
   if (const UMLVisibilityKind* visibility = element->UMLPackageableElement::visibility) {
     target->visibility = mapVisibility(visibility->getValue());
   }

@@ -5,6 +5,7 @@
 // come after that, since a feature's type can be any class as well.
 #include "bridge/messages/KBI_UML2XMI.h"
 #include "bridge/state/KYROmgUml2XmiImportBridge.h"
+#include "bridge/state/ShownText.h"
 #include "foundation/KYRException.h"
 #include "repository/model/KYRDataPackage.h"
 #include "repository/model/KYRDesignPackage.h"
@@ -20,8 +21,8 @@ constexpr const char* rootPackageForLooseElements = "Logical View";
 }  // namespace
 
 void KYROmgUml2XmiImportBridge::convertModel() {
-  storeModel->setName(umlModel->name);
-  storeModel->sourceId = umlModel->id;
+  storeModel->takeName(shownText(umlModel->name));
+  storeModel->sourceId = shownText(umlModel->id);
   KYRMetadataOrigin& origin = *storeModel->metadataOrigin;
   if (!umlModel->exporter.isEmpty()) {
     origin.toolDetail.empty();
@@ -44,7 +45,7 @@ void KYROmgUml2XmiImportBridge::convertModel() {
   KBI_UML2XMI::UML2_S_CREATING_KEYS.log(*log);
   convertKeys();
   KBI_UML2XMI::UML2_S_PROCESSING_TYPES.log(*log);
-  for (KYRModelObject* feature : typedFeatures) assignFeatureType(feature);
+  assignFeatureTypes();
   KBI_UML2XMI::UML2_S_CREATING_DIAGRAMS.log(*log);
   if (umlModel->exporter.equals("MagicDraw UML", false)) importDiagrams();
 }

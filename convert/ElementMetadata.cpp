@@ -1,5 +1,6 @@
 // What every element brings along: documentation, comments and tagged values.
 #include "bridge/state/KYROmgUml2XmiImportBridge.h"
+#include "bridge/state/ShownText.h"
 #include "repository/bridgelib/KYRBridgeLib.h"
 #include "repository/model/KYRElement.h"
 #include "repository/model/KYRNote.h"
@@ -15,7 +16,7 @@ constexpr const char* textDataType = "SQL_VARCHAR";
 
 void KYROmgUml2XmiImportBridge::applyElementMetadata(KYRElement* object, UMLElement* element) {
   countSteps(element->ownedComment.count() + element->taggedValues.count());
-  if (!element->documentation.isEmpty()) object->description = element->documentation;
+  if (!element->documentation.isEmpty()) object->description = shownText(element->documentation);
   if (!element->ownedComment.isEmpty()) convertComments(object, element, element->ownedComment);
   for (const UMLTaggedValue* tag : element->taggedValues) {
     KYRPropertyType* const type =
@@ -34,12 +35,12 @@ void KYROmgUml2XmiImportBridge::convertComments(KYRElement* object, UMLElement* 
     if (comment != nullptr && commentTargets_.appliesTo(*comment, *element)) applicable.push_back(comment);
   }
   if (object->description.isEmpty() && applicable.size() == 1) {
-    object->description = applicable.front()->body;
+    object->description = shownText(applicable.front()->body);
     return;
   }
   for (const UMLComment* comment : applicable) {
     auto note = std::make_unique<KYRNote>();
-    note->noteText = comment->body;
+    note->noteText = shownText(comment->body);
     object->addNote(note.get());
     note.release();  // ownership: the element
   }

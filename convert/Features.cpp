@@ -1,5 +1,6 @@
 // Attributes, operations and arguments. Types come later: each of them waits in `typedFeatures`.
 #include "bridge/state/KYROmgUml2XmiImportBridge.h"
+#include "bridge/state/ShownText.h"
 #include "repository/model/KYRArgument.h"
 #include "repository/model/KYRAttribute.h"
 #include "repository/model/KYROperation.h"
@@ -52,9 +53,9 @@ KYRVisibilityType KYROmgUml2XmiImportBridge::mapVisibility(int visibility) {
 KYRString KYROmgUml2XmiImportBridge::valueSpecificationText(const UMLValueSpecification* value) {
   switch (value->getKind()) {
     case UMLLiteralString::kind:
-      return umlCast<UMLLiteralString>(value)->value;
+      return shownText(umlCast<UMLLiteralString>(value)->value);
     case UMLOpaqueExpression::kind:
-      return umlCast<UMLOpaqueExpression>(value)->body;
+      return shownText(umlCast<UMLOpaqueExpression>(value)->body);
     default:
       return {};
   }
@@ -62,8 +63,8 @@ KYRString KYROmgUml2XmiImportBridge::valueSpecificationText(const UMLValueSpecif
 
 std::unique_ptr<KYRAttribute> KYROmgUml2XmiImportBridge::convertProperty(UMLProperty* element) {
   auto attribute = std::make_unique<KYRAttribute>();
-  attribute->setName(element->name);
-  attribute->sourceId = element->id;
+  attribute->takeName(shownText(element->name));
+  attribute->sourceId = shownText(element->id);
   applyElementMetadata(attribute.get(), element);
   enter(attribute.get(), element);
   if (element->defaultValue != nullptr) {
@@ -80,8 +81,8 @@ std::unique_ptr<KYRAttribute> KYROmgUml2XmiImportBridge::convertProperty(UMLProp
 
 std::unique_ptr<KYROperation> KYROmgUml2XmiImportBridge::convertOperation(UMLOperation* element) {
   auto operation = std::make_unique<KYROperation>();
-  operation->setName(element->name);
-  operation->sourceId = element->id;
+  operation->takeName(shownText(element->name));
+  operation->sourceId = shownText(element->id);
   applyElementMetadata(operation.get(), element);
   enter(operation.get(), element);
   operation->isStatic = element->isStatic;
@@ -103,8 +104,8 @@ std::unique_ptr<KYROperation> KYROmgUml2XmiImportBridge::convertOperation(UMLOpe
 
 void KYROmgUml2XmiImportBridge::convertParameter(UMLParameter* element, KYROperation* operation) {
   auto argument = std::make_unique<KYRArgument>();
-  argument->setName(element->name);
-  argument->sourceId = element->id;
+  argument->takeName(shownText(element->name));
+  argument->sourceId = shownText(element->id);
   applyElementMetadata(argument.get(), element);
   argument->position = operation->getArgumentCount();
   operation->addArgument(argument.get());

@@ -169,7 +169,8 @@ const std::vector<KYRAssociationRole*>& KYROmgUml2XmiImportBridge::rolesTowards(
 void KYROmgUml2XmiImportBridge::markOptionalAttributes() {
   for (KYRModelObject* feature : typedFeatures) {
     if (feature->getElementType() != KYRElementType::attribute) continue;
-    auto& attribute = dynamic_cast<KYRAttribute&>(*feature);
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-static-cast-downcast): the element type says that it is one
+    auto& attribute = static_cast<KYRAttribute&>(*feature);
     if (!isInPrimaryKey(attribute)) attribute.isOptional = true;
   }
 }

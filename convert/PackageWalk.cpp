@@ -5,6 +5,7 @@
 #include <unordered_set>
 
 #include "bridge/state/KYROmgUml2XmiImportBridge.h"
+#include "bridge/state/ShownText.h"
 #include "repository/model/KYRDesignPackage.h"
 #include "repository/model/KYRStoreModel.h"
 #include "uml/UMLCast.h"
@@ -96,9 +97,9 @@ std::unique_ptr<KYRDesignPackage> KYROmgUml2XmiImportBridge::convertPackage(UMLP
 
 std::unique_ptr<KYRDesignPackage> KYROmgUml2XmiImportBridge::createPackage(UMLPackage* element) {
   auto package = std::make_unique<KYRDesignPackage>();
-  package->setName(element->name);
+  package->takeName(shownText(element->name));
   package->isModelPackage = true;
-  package->sourceId = element->id;
+  package->sourceId = shownText(element->id);
   applyElementMetadata(package.get(), element);
   enter(package.get(), element);
   return package;

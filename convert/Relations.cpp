@@ -1,6 +1,7 @@
 // Generalizations, realizations and dependencies. A relation whose ends are not both classes of the
 // right kind is dropped in silence; of several suppliers or clients the first counts.
 #include "bridge/state/KYROmgUml2XmiImportBridge.h"
+#include "bridge/state/ShownText.h"
 #include "repository/bridgelib/KYRBridgeLib.h"
 #include "repository/model/KYRClass.h"
 #include "repository/model/KYRDependency.h"
@@ -17,13 +18,11 @@ namespace {
 // The class made from the first entry, when that is of exactly the kind; null otherwise.
 KYRClass* firstClass(const Borrowed<UMLNamedElement>& ends, int kind) {
   const UMLNamedElement* const end = ends.at(0);
-  if (end == nullptr || end->getKind() != kind || end->repositoryObject == nullptr) return nullptr;
-  if (end->repositoryObject->getElementType() != KYRElementType::class_) return nullptr;
-  return dynamic_cast<KYRClass*>(end->repositoryObject);
+  return end != nullptr && end->getKind() == kind ? KYRClass::from(end->repositoryObject) : nullptr;
 }
 
 KYRClass* classOf(const UMLClassifier* element) {
-  return element != nullptr ? dynamic_cast<KYRClass*>(element->repositoryObject) : nullptr;
+  return element != nullptr ? KYRClass::from(element->repositoryObject) : nullptr;
 }
 
 }  // namespace
@@ -48,7 +47,7 @@ void KYROmgUml2XmiImportBridge::connectGeneralization(UMLElement* cause, UMLGene
   KYRGeneralizationRole* const role = getSubtypeGeneralizationRole(generalization, sub, true);
   // A second edge between the same classes renames their role.
   if (generalization->subtypeRoles.count() == knownRoles) objects.removeRecord(role);
-  role->sourceId = edge->id;
+  role->sourceId = shownText(edge->id);
   objects.addRecord(role);
 }
 
@@ -56,9 +55,10 @@ KYRGeneralization* KYROmgUml2XmiImportBridge::createGeneralization(UMLElement* c
   auto generalization = std::make_unique<KYRGeneralization>();
   KYRGeneralization* const result = generalization.get();
   // Only a set has a name: a single generalization is no named element.
-  if (const UMLNamedElement* named = umlCast<UMLNamedElement>(cause)) result->setName(named->name);
+  if (const UMLNamedElement* named = umlCast<UMLNamedElement>(cause))
+    result->takeName(shownText(named->name));
   if (cause->getKind() == UMLGeneralizationSet::kind) {
-    result->sourceId = cause->id;
+    result->sourceId = shownText(cause->id);
     objects.addRecord(result);
   }
   applyElementMetadata(result, cause);
@@ -71,8 +71,8 @@ void KYROmgUml2XmiImportBridge::convertRealization(UMLInterfaceRealization* elem
   KYRClass* const client = firstClass(element->client, UMLClass::kind);
   if (supplier == nullptr || client == nullptr) return;
   auto realization = std::make_unique<KYRRealization>();
-  realization->sourceId = element->id;
-  if (!element->name.isEmpty()) realization->setName(element->name);
+  realization->sourceId = shownText(element->id);
+  if (!element->name.isEmpty()) realization->takeName(shownText(element->name));
   applyElementMetadata(realization.get(), element);
   objects.addRecord(realization.get());
   realization->addRealizationClass(supplier);
@@ -85,8 +85,8 @@ void KYROmgUml2XmiImportBridge::convertDependency(UMLDependency* element) {
   KYRClass* const client = firstClass(element->client, UMLClass::kind);
   if (supplier == nullptr || client == nullptr) return;
   auto dependency = std::make_unique<KYRDependency>();
-  dependency->sourceId = element->id;
-  if (!element->name.isEmpty()) dependency->setName(element->name);
+  dependency->sourceId = shownText(element->id);
+  if (!element->name.isEmpty()) dependency->takeName(shownText(element->name));
   applyElementMetadata(dependency.get(), element);
   objects.addRecord(dependency.get());
   dependency->addSupplierClass(supplier);

@@ -5,6 +5,7 @@
 // first pass of an enumeration can add values: from then on the type holds all names, and a further
 // pass has nothing to do for any literal. So it does not look at them.
 #include "bridge/state/KYROmgUml2XmiImportBridge.h"
+#include "bridge/state/ShownText.h"
 #include "repository/model/KYRDerivedType.h"
 #include "repository/model/KYRTypeValue.h"
 #include "uml/UMLCast.h"
@@ -42,7 +43,7 @@ void readSpecification(const UMLValueSpecification& specification, KYRTypeValue&
 }  // namespace
 
 KYRDerivedType* KYROmgUml2XmiImportBridge::convertEnumeration(UMLEnumeration* element) {
-  KYRDerivedType* const type = getDerivedType(element->name, element->id, 0, 0, true);
+  KYRDerivedType* const type = derivedTypeOf(element, 0, 0);
   type->umlElement = element;
   convertEnumerationLiterals(type);
   ensureBaseType(type);
@@ -72,7 +73,7 @@ void KYROmgUml2XmiImportBridge::addTypeValue(KYRDerivedType* type, UMLEnumeratio
     auto value = std::make_unique<KYRTypeValue>();
     value->setName(literal->name.trim());
     value->position = type->getTypeValueCount();
-    value->sourceId = literal->id;
+    value->sourceId = shownText(literal->id);
     if (literal->specification != nullptr) readSpecification(*literal->specification, *value, dataType);
     if (value->value.isEmpty()) value->setValue(literal->name);
     applyElementMetadata(value.get(), literal);

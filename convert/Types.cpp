@@ -3,6 +3,7 @@
 //
 // The first UML type to use a name decides all about the derived type of that name, length and scale.
 #include "bridge/state/KYROmgUml2XmiImportBridge.h"
+#include "bridge/state/ShownText.h"
 #include "repository/bridgelib/KYRBridgeLib.h"
 #include "repository/datatypes/KYRDataTypeConverter.h"
 #include "repository/model/KYRArgument.h"
@@ -23,7 +24,7 @@ constexpr const char* classTypeSuffix = "_type";
 
 // The name with the numbers in it: "varchar_30", "decimal_10_2". A scale by itself adds nothing.
 KYRString buildLogicalName(const KYRString& typeName, int length, int scale) {
-  KYRString name = typeName;
+  KYRString name = shownText(typeName);
   if (length == 0) return name;
   name += "_";
   name += KYRString(length);
@@ -57,6 +58,27 @@ void KYROmgUml2XmiImportBridge::assignFeatureType(KYRObject* feature) {
 }
 // NOLINTEND(cppcoreguidelines-pro-type-static-cast-downcast)
 
+// Features, their elements, the types of those and their classes lie anywhere in memory: each is asked for
+// some features ahead of its use.
+void KYROmgUml2XmiImportBridge::assignFeatureTypes() {
+  constexpr unsigned int elementsAhead = 24;
+  constexpr unsigned int typesAhead = 16;
+  constexpr unsigned int classesAhead = 8;
+  const auto typeAt = [this](unsigned int index) -> const UMLType* {
+    const auto* const element = umlCast<UMLTypedElement>(typedFeatures.at(index)->umlElement);
+    return element != nullptr ? element->type : nullptr;
+  };
+  const unsigned int count = typedFeatures.count();
+  for (unsigned int i = 0; i < count; ++i) {
+    if (i + elementsAhead < count) {
+      __builtin_prefetch(typedFeatures.at(i + elementsAhead)->umlElement);
+      __builtin_prefetch(typeAt(i + typesAhead));
+      if (const UMLType* const type = typeAt(i + classesAhead)) __builtin_prefetch(type->repositoryObject);
+    }
+    assignFeatureType(typedFeatures.at(i));
+  }
+}
+
 // All that has no type shares one that is undefined.
 KYRType* KYROmgUml2XmiImportBridge::typeOf(const UMLTypedElement* element) {
   if (element != nullptr && element->type != nullptr) return convertType(element->type);
@@ -68,11 +90,17 @@ KYRType* KYROmgUml2XmiImportBridge::convertType(UMLType* element) {
   const int kind = element->getKind();
   if (kind == UMLEnumeration::kind) return convertEnumeration(umlCast<UMLEnumeration>(element));
   if (kind == UMLClass::kind || kind == UMLInterface::kind) {
-    if (auto* const typeClass = dynamic_cast<KYRClass*>(element->repositoryObject))
-      return getClassType(typeClass);
+    if (KYRClass* const typeClass = KYRClass::from(element->repositoryObject)) return getClassType(typeClass);
   }
   // A class that was dropped lives on here, as a type of its name.
-  return getDerivedType(element->name, element->id, element->length, element->scale, true);
+  return derivedTypeOf(element, element->length, element->scale);
+}
+
+// The type that an element has found or made once is the one that it would find again.
+KYRDerivedType* KYROmgUml2XmiImportBridge::derivedTypeOf(UMLType* element, int length, int scale) {
+  KYRDerivedType*& known = derivedTypes_[element];
+  if (known == nullptr) known = getDerivedType(element->name, element->id, length, scale, true);
+  return known;
 }
 
 KYRDerivedType* KYROmgUml2XmiImportBridge::getDerivedType(const KYRString& typeName,
@@ -85,10 +113,10 @@ KYRDerivedType* KYROmgUml2XmiImportBridge::getDerivedType(const KYRString& typeN
   }
   auto made = std::make_unique<KYRDerivedType>();
   made->dataType = dataTypeConverter->getImportTypeName(typeName);
-  made->nativeDataType = typeName;
-  made->setName(logicalName);
+  made->nativeDataType = shownText(typeName);
+  made->takeName(shownText(logicalName));
   made->userDefined = true;
-  made->sourceId = sourceId;
+  made->sourceId = shownText(sourceId);
   if (!isUndefined(made->dataType)) {
     made->length = length;
     made->scale = scale;
@@ -125,7 +153,7 @@ KYRClassType* KYROmgUml2XmiImportBridge::getClassType(KYRClass* typeClass) {
   if (typeClass == nullptr) return nullptr;
   if (typeClass->classType != nullptr) return typeClass->classType;
   auto made = std::make_unique<KYRClassType>();
-  made->setName(typeClass->getName());
+  made->takeName(shownText(typeClass->getName()));
   made->setPhysicalName(undefinedName);
   made->addAssociatedClass(typeClass);
   made->addModel(storeModel);

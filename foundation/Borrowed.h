@@ -2,8 +2,9 @@
 //
 // The container family stores `const void*`. Since the UML classes have virtual bases, a pointer
 // must come out as the type it went in as; this face converts in one place, so the uniqueness test
-// compares like with like. Most lists of a model are empty or hold one entry, so the face costs one
-// pointer: null, the single entry itself (marked in the lowest bit), or a Container on the heap.
+// compares like with like. Most lists of a model are empty or hold one entry, and most others a few, so
+// the face costs one pointer: null, the single entry itself, a ShortPointerList, or from sixteen entries on
+// a Container, which has an index; the lowest bits tell which.
 #pragma once
 
 #include <cassert>
@@ -12,6 +13,7 @@
 #include <utility>
 
 #include "foundation/KYRVector.h"
+#include "foundation/ShortPointerList.h"
 
 template <class T, class Container = KYRVector>
 class Borrowed {
@@ -22,7 +24,9 @@ class Borrowed {
   Borrowed(Borrowed&& other) noexcept : bits_(std::exchange(other.bits_, 0)) {}
   Borrowed& operator=(const Borrowed& other) {
     if (this != &other) {
-      const std::uintptr_t copy = other.isHeap() ? number(new Container(*other.heap())) : other.bits_;
+      std::uintptr_t copy = other.bits_;
+      if (other.isShort()) copy = number(ShortPointerList::larger(other.shortList())) | shortMark;
+      if (other.isLong()) copy = number(new Container(*other.longList()));
       clear();
       bits_ = copy;
     }
@@ -36,41 +40,45 @@ class Borrowed {
 
   /// Appends; with `unique` an entry already present is refused and the result is false.
   bool add(T* entry, bool unique = true) {
+    if (isLong()) return longList()->add(untyped(entry), unique, nullptr);
     if (bits_ == 0 && entry != nullptr) {
-      bits_ = single(entry);
+      bits_ = number(untyped(entry)) | singleMark;
       return true;
     }
-    if (isSingle()) {
-      if (unique && at(0) == entry) return false;
-      auto container = std::make_unique<Container>();
-      container->add(untyped(at(0)), false, nullptr);
-      container->add(untyped(entry), false, nullptr);
-      bits_ = number(container.release());
-      return true;
+    if (unique && contains(entry)) return false;
+    if (count() == ShortPointerList::highestCount) {
+      lengthen();
+      return longList()->add(untyped(entry), false, nullptr);
     }
-    if (bits_ == 0) bits_ = number(new Container());
-    return heap()->add(untyped(entry), unique, nullptr);
+    makeRoom();
+    shortList()->append(untyped(entry));
+    return true;
   }
   /// Number of entries. It may change during a walk, so loops read it each time.
   unsigned int count() const noexcept {
     if (bits_ == 0) return 0;
-    return isSingle() ? 1 : heap()->getCount();
+    if (isSingle()) return 1;
+    return isShort() ? shortList()->getCount() : longList()->getCount();
   }
   bool isEmpty() const noexcept { return count() == 0; }
   /// The entry at a position from 0; null beyond the end.
   T* at(unsigned int index) const noexcept {
-    if (isSingle()) return index == 0 ? typed(pointer(bits_ & ~singleMark)) : nullptr;
-    return bits_ == 0 ? nullptr : typed(heap()->getAt(index));
+    if (bits_ == 0) return nullptr;
+    if (isSingle()) return index == 0 ? single() : nullptr;
+    return typed(isShort() ? shortList()->at(index) : longList()->getAt(index));
   }
   bool contains(const T* entry) const {
-    if (isSingle()) return at(0) == entry;
-    return bits_ != 0 && heap()->contains(untyped(entry), nullptr);
+    if (bits_ == 0) return false;
+    if (isSingle()) return single() == entry;
+    return isShort() ? shortList()->contains(untyped(entry)) : longList()->contains(untyped(entry), nullptr);
   }
   void removeAt(unsigned int index) {
     if (isSingle()) {
       if (index == 0) bits_ = 0;
-    } else if (bits_ != 0) {
-      heap()->removeAt(index);
+    } else if (isShort()) {
+      shortList()->removeAt(index);
+    } else if (isLong()) {
+      longList()->removeAt(index);
     }
   }
   /// Removes the entry wherever it stands; false when it is not there.
@@ -84,11 +92,14 @@ class Borrowed {
     return false;
   }
   void clear() noexcept {
-    if (isHeap()) delete heap();
+    if (isShort()) ShortPointerList::destroy(shortList());
+    if (isLong()) delete longList();
     bits_ = 0;
   }
-  /// Pointer comparisons of the uniqueness test so far; see KYRVector.
-  std::uint64_t getComparisonCount() const noexcept { return isHeap() ? heap()->getComparisonCount() : 0; }
+  /// Pointer comparisons of the uniqueness test so far, those of short lists left out; see KYRVector.
+  std::uint64_t getComparisonCount() const noexcept {
+    return isLong() ? longList()->getComparisonCount() : 0;
+  }
 
   class Walk {
    public:
@@ -110,21 +121,41 @@ class Borrowed {
 
  private:
   static constexpr std::uintptr_t singleMark = 1;
+  static constexpr std::uintptr_t shortMark = 2;
+  static constexpr std::uintptr_t marks = singleMark | shortMark;
+
   static const void* untyped(const T* entry) noexcept { return static_cast<const void*>(entry); }
   static T* typed(const void* entry) noexcept { return static_cast<T*>(const_cast<void*>(entry)); }
-  static std::uintptr_t single(const T* entry) noexcept {
-    const std::uintptr_t bits = number(untyped(entry));
-    assert((bits & singleMark) == 0);  // objects with a virtual table lie at even addresses
-    return bits | singleMark;
-  }
   static std::uintptr_t number(const void* pointed) noexcept {
-    return reinterpret_cast<std::uintptr_t>(pointed);
+    const auto bits = reinterpret_cast<std::uintptr_t>(pointed);
+    assert((bits & marks) ==
+           0);  // objects with a virtual table, and what was allocated, lie at such addresses
+    return bits;
   }
   // NOLINTNEXTLINE(performance-no-int-to-ptr): a marked pointer is a number, that is the idea
-  static void* pointer(std::uintptr_t bits) noexcept { return reinterpret_cast<void*>(bits); }
+  void* pointer() const noexcept { return reinterpret_cast<void*>(bits_ & ~marks); }
   bool isSingle() const noexcept { return (bits_ & singleMark) != 0; }
-  bool isHeap() const noexcept { return bits_ != 0 && !isSingle(); }
-  Container* heap() const noexcept { return static_cast<Container*>(pointer(bits_)); }
+  bool isShort() const noexcept { return (bits_ & shortMark) != 0; }
+  bool isLong() const noexcept { return bits_ != 0 && (bits_ & marks) == 0; }
+  T* single() const noexcept { return typed(pointer()); }
+  ShortPointerList* shortList() const noexcept { return static_cast<ShortPointerList*>(pointer()); }
+  Container* longList() const noexcept { return static_cast<Container*>(pointer()); }
+
+  // A short list with room for one more entry, of the entries that are there.
+  void makeRoom() {
+    if (isShort() && !shortList()->isFull()) return;
+    ShortPointerList* const list = ShortPointerList::larger(isShort() ? shortList() : nullptr);
+    if (isSingle()) list->append(untyped(single()));
+    if (isShort()) ShortPointerList::destroy(shortList());
+    bits_ = number(list) | shortMark;
+  }
+  // From a full short list to a container.
+  void lengthen() {
+    auto container = std::make_unique<Container>(int{2 * ShortPointerList::highestCount});
+    for (unsigned int i = 0; i < count(); ++i) container->add(untyped(at(i)), false, nullptr);
+    ShortPointerList::destroy(shortList());
+    bits_ = number(container.release());
+  }
 
   std::uintptr_t bits_ = 0;
 };

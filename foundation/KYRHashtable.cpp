@@ -85,7 +85,7 @@ KYRHashtable::KYRHashtable(const KYRHashtable& other)
       count_(other.count_),
       firstSlot_(other.firstSlot_),
       hashing_(other.hashing_),
-      isWaiting_(other.isWaiting_) {}
+      waiting_(other.waiting_) {}
 
 KYRHashtable::~KYRHashtable() = default;
 
@@ -95,7 +95,7 @@ void KYRHashtable::empty() {
   count_ = 0;
   firstSlot_ = 0;
   addresses_.reset();
-  isWaiting_ = false;
+  waiting_.clear();
 }
 
 KYRContainer::Iterator* KYRHashtable::newIterator(bool /*forward*/) const { return new TableIterator(*this); }
@@ -106,10 +106,10 @@ void KYRHashtable::deleteIterator(Iterator* iterator) const { delete iterator; }
 // NOLINTBEGIN(misc-no-recursion)
 bool KYRHashtable::add(const void* object, bool unique, Iterator* /*position*/) {
   if (object == nullptr) return false;
-  if (!unique && hashing_ == Hashing::atFirstLookup && (isWaiting_ || buckets_.empty())) {
-    makeRoomForOne();
-    isWaiting_ = true;
-    append(object, 0, false, none);
+  if (!unique && hashing_ == Hashing::atFirstLookup && buckets_.empty()) {
+    makeRoomForOne(waiting_);
+    waiting_.push_back(object);
+    ++count_;
     return true;
   }
   requireHashes();  // before the object's own hash, so that a failure is told in order
@@ -123,39 +123,39 @@ bool KYRHashtable::add(const void* object, bool unique, Iterator* /*position*/) 
   } else if (count_ >= buckets_.size()) {
     resize(static_cast<int>(std::min<std::size_t>(buckets_.size() * 2, std::size_t{1} << 30)));
   }
-  makeRoomForOne();
+  makeRoomForOne(entries_);
   if (addresses_) addresses_->insert(object, static_cast<std::uint32_t>(entries_.size()));
   append(object, hash, isChained, leader);
   return true;
 }
 
-void KYRHashtable::makeRoomForOne() {
-  if (entries_.size() >= none) throw std::length_error("KYRHashtable: too many entries");
-  if (entries_.size() == entries_.capacity()) entries_.reserve(std::max(entries_.size() * 2, smallestTable));
+template <class List>
+void KYRHashtable::makeRoomForOne(List& list) {
+  if (list.size() >= none) throw std::length_error("KYRHashtable: too many entries");
+  if (list.size() == list.capacity()) list.reserve(std::max(list.size() * 2, smallestTable));
 }
 
 // The objects keep their slots, since a walk may be under way.
 void KYRHashtable::hashWaiting() {
-  KYRHashtable waiting(static_cast<int>(smallestTable));
-  waiting.entries_.swap(entries_);
-  waiting.count_ = std::exchange(count_, 0);
-  isWaiting_ = false;
+  std::vector<const void*> waiting;
+  waiting.swap(waiting_);
+  const std::uint32_t count = std::exchange(count_, 0);
   try {
-    rebuildBuckets(std::max<std::size_t>(wantedBuckets_, bucketsFor(waiting.count_)));
-    entries_.reserve(waiting.count_);
-    for (const Entry& entry : waiting.entries_) KYRHashtable::add(entry.object, false, nullptr);
+    rebuildBuckets(std::max<std::size_t>(wantedBuckets_, bucketsFor(count)));
+    entries_.reserve(count);
+    for (const void* object : waiting) KYRHashtable::add(object, false, nullptr);
   } catch (...) {
     buckets_.clear();
-    entries_.swap(waiting.entries_);
-    count_ = waiting.count_;
-    isWaiting_ = true;
+    entries_.clear();
+    waiting.swap(waiting_);
+    count_ = count;
     throw;
   }
 }
 
 // What can be observed of the table stays the same.
 void KYRHashtable::requireHashes() const {
-  if (isWaiting_) const_cast<KYRHashtable*>(this)->hashWaiting();
+  if (!waiting_.empty()) const_cast<KYRHashtable*>(this)->hashWaiting();
 }
 
 bool KYRHashtable::contains(const void* object, Iterator* /*position*/) const {
@@ -196,7 +196,7 @@ KYRHashtable& KYRHashtable::operator=(const KYRHashtable& other) {
     std::swap(count_, with.count_);
     std::swap(firstSlot_, with.firstSlot_);
     addresses_.swap(with.addresses_);
-    std::swap(isWaiting_, with.isWaiting_);
+    waiting_.swap(with.waiting_);
   };
   // The old content waits aside; whatever stands here at the end of an unfinished copy is dropped.
   KYRHashtable aside(static_cast<int>(smallestTable));
@@ -210,8 +210,8 @@ KYRHashtable& KYRHashtable::operator=(const KYRHashtable& other) {
   } restore{exchange, &aside};
   entries_.reserve(other.count_);
   rebuildBuckets(std::max<std::size_t>(wantedBuckets_, bucketsFor(other.count_)));
-  for (const Entry& entry : other.entries_) {
-    if (entry.object != nullptr) KYRHashtable::add(entry.object, false, nullptr);
+  for (unsigned int slot = 0; slot < other.getSlotCount(); ++slot) {
+    KYRHashtable::add(other.getAt(slot), false, nullptr);
   }
   restore.old = nullptr;
   return *this;

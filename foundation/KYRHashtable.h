@@ -68,11 +68,14 @@ class KYR_EXPORT KYRHashtable : public KYRContainer {
   /// Number of objects.
   unsigned int getCount() const noexcept { return count_; }
   /// Number of positions for `getAt`: objects plus the gaps that removals left.
-  unsigned int getSlotCount() const noexcept { return static_cast<unsigned int>(entries_.size()); }
+  unsigned int getSlotCount() const noexcept {
+    return static_cast<unsigned int>(entries_.size() + waiting_.size());
+  }
   /// The object at a position in insertion order; null at the gap of a removed one. A walk by
   /// position may add objects on the way.
   const void* getAt(unsigned int slot) const noexcept {
-    return slot < entries_.size() ? entries_[slot].object : nullptr;
+    if (slot < entries_.size()) return entries_[slot].object;
+    return slot < waiting_.size() ? waiting_[slot] : nullptr;
   }
   static constexpr unsigned int noSlot = 0xFFFFFFFFU;
   /// The position of the first object added under that key, or `noSlot`.
@@ -101,7 +104,8 @@ class KYR_EXPORT KYRHashtable : public KYRContainer {
     std::uint32_t lastEqual;  // leader: the last of its equals (alone: itself); else none
   };
 
-  void makeRoomForOne();
+  template <class List>
+  static void makeRoomForOne(List& list);
   void hashWaiting();
   void requireHashes() const;
   std::uint32_t* bucketOf(std::uint32_t hash) noexcept;
@@ -123,5 +127,5 @@ class KYR_EXPORT KYRHashtable : public KYRContainer {
   std::uint32_t firstSlot_ = 0;  // no object stands before it
   std::unique_ptr<AddressIndex> addresses_;
   Hashing hashing_;
-  bool isWaiting_ = false;  // the objects stand in entries_ and are in no chain yet
+  std::vector<const void*> waiting_;  // all objects, as long as none of them has been hashed
 };

@@ -31,14 +31,14 @@ class KYR_EXPORT KYRSAX2Parser {
   ~KYRSAX2Parser();
 
   /// Streams the file. Tags and attribute names arrive as written, prefix included; attribute
-  /// names and values in turn. Tag and attributes are borrowed views that live until the next
-  /// `parseFile` of this parser or its end; character data may come in several calls for one element
-  /// and lives for its call only. When a document of the same unchanged file still lives, that one is
-  /// walked instead and nothing is read. When a host has installed a rewriter for the file
-  /// (foundation/xml/XmlRewriting.h), it is parsed whole, and the document that the rewriter hands on is
-  /// walked. Raises KYRException (file, line, column, reason) for a file that cannot be read, is not
-  /// well-formed (XML 1.0), is not valid in its encoding, or exceeds a limit; an exception out of
-  /// a callback passes through.
+  /// names and values in turn. All texts are borrowed views that live until the next `parseFile` of this
+  /// parser or its end, and beyond that for whoever holds the texts of its document
+  /// (XmlDocument::getTexts); character data may come in several calls for one element. When a document of
+  /// the same unchanged file still lives, that one is walked instead and nothing is read. When a host has
+  /// installed a rewriter for the file (foundation/xml/XmlRewriting.h), it is parsed whole, and the document
+  /// that the rewriter hands on is walked. Raises KYRException (file, line, column, reason) for a file that
+  /// cannot be read, is not well-formed (XML 1.0), is not valid in its encoding, or exceeds a limit; an
+  /// exception out of a callback passes through.
   void parseFile(const KYRFile& file);
 
   /// Where the parser stands: "line L, column C" of the "<" of the element last reported, both

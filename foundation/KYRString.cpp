@@ -50,13 +50,6 @@ KYRString::KYRString(std::string_view text) { assign(text); }
 
 KYRString::KYRString(const KYRString& other) { assign(other.view()); }
 
-KYRString::KYRString(KYRString&& other) noexcept
-    : characters_(other.characters_), length_(other.length_), capacity_(other.capacity_) {
-  other.characters_ = emptyCharacters_;
-  other.length_ = 0;
-  other.capacity_ = 0;
-}
-
 KYRString::KYRString(char character) { assign({&character, 1}); }
 
 KYRString::KYRString(int number) {
@@ -65,22 +58,10 @@ KYRString::KYRString(int number) {
   assign({digits, static_cast<std::size_t>(result.ptr - digits)});
 }
 
-KYRString::~KYRString() {
-  if (capacity_ != 0) delete[] characters_;
-}
+void KYRString::freeBuffer() noexcept { delete[] characters_; }
 
 KYRString& KYRString::operator=(const KYRString& other) {
   if (this != &other) assign(other.view());
-  return *this;
-}
-
-KYRString& KYRString::operator=(KYRString&& other) noexcept {
-  if (this != &other) {
-    empty();
-    std::swap(characters_, other.characters_);
-    std::swap(length_, other.length_);
-    std::swap(capacity_, other.capacity_);
-  }
   return *this;
 }
 
@@ -98,15 +79,6 @@ KYRString KYRString::borrowed(std::string_view text) {
     result.length_ = static_cast<std::uint32_t>(text.size());
   }
   return result;
-}
-
-void KYRString::borrow(const KYRString& source) noexcept {
-  if (this == &source) return;
-  empty();
-  if (source.length_ != 0) {
-    characters_ = source.characters_;
-    length_ = source.length_;
-  }
 }
 
 void KYRString::init(const char* text, int length) {
@@ -143,13 +115,6 @@ KYRString& KYRString::operator+=(std::string_view other) {
   }
   length_ = static_cast<std::uint32_t>(length);
   return *this;
-}
-
-void KYRString::empty() noexcept {
-  if (capacity_ != 0) delete[] characters_;
-  characters_ = emptyCharacters_;
-  length_ = 0;
-  capacity_ = 0;
 }
 
 void KYRString::clearKeepingBuffer() noexcept {
@@ -270,7 +235,8 @@ int parseInt(std::string_view text) noexcept {
 }
 
 bool equalsIgnoringCase(std::string_view first, std::string_view second) noexcept {
-  return first.size() == second.size() &&
-         std::equal(first.begin(), first.end(), second.begin(),
+  if (first.size() != second.size()) return false;
+  if (first == second) return true;  // which is how nearly all texts that are equal are written
+  return std::equal(first.begin(), first.end(), second.begin(),
                     [](char one, char other) { return foldCase(one) == foldCase(other); });
 }

@@ -27,22 +27,42 @@ class KYR_EXPORT KYRString {
   /// An owning copy, also of a borrowed text.
   KYRString(const KYRString& other);
   /// Takes over the characters of `other`, which becomes empty.
-  KYRString(KYRString&& other) noexcept;
+  KYRString(KYRString&& other) noexcept
+      : characters_(other.characters_), length_(other.length_), capacity_(other.capacity_) {
+    other.showNothing();
+  }
   /// A text of one character.
   explicit KYRString(char character);
   /// The decimal text of the number.
   explicit KYRString(int number);
-  ~KYRString();
+  ~KYRString() {
+    if (capacity_ != 0) freeBuffer();
+  }
 
   KYRString& operator=(const KYRString& other);
-  KYRString& operator=(KYRString&& other) noexcept;
+  KYRString& operator=(KYRString&& other) noexcept {
+    if (this != &other) {
+      if (capacity_ != 0) freeBuffer();
+      characters_ = other.characters_;
+      length_ = other.length_;
+      capacity_ = other.capacity_;
+      other.showNothing();
+    }
+    return *this;
+  }
   KYRString& operator=(const char* text);
 
   /// A text that points at the characters of `text` without copying them.
   /// The byte behind the last one must be a zero, and the characters must outlive the result.
   static KYRString borrowed(std::string_view text);
   /// Makes this text a borrowed view of the characters that `source` shows, which must outlive it.
-  void borrow(const KYRString& source) noexcept;
+  void borrow(const KYRString& source) noexcept {
+    if (this == &source) return;
+    if (capacity_ != 0) freeBuffer();
+    capacity_ = 0;
+    length_ = source.length_;
+    characters_ = length_ == 0 ? emptyCharacters_ : source.characters_;
+  }
   /// Whether the characters belong to somebody else. The empty text is never borrowed.
   bool isBorrowed() const noexcept { return capacity_ == 0 && length_ != 0; }
 
@@ -52,7 +72,10 @@ class KYR_EXPORT KYRString {
   KYRString& operator+=(std::string_view other);
   KYRString& operator+=(const char* other);
   /// Makes the text empty. It is not a test; `isEmpty` is.
-  void empty() noexcept;
+  void empty() noexcept {
+    if (capacity_ != 0) freeBuffer();
+    showNothing();
+  }
   /// Makes the text empty but keeps its buffer for the next text.
   void clearKeepingBuffer() noexcept;
   /// One empty text that lives for the whole process.
@@ -90,6 +113,12 @@ class KYR_EXPORT KYRString {
   unsigned int hashCode() const noexcept;
 
  private:
+  void showNothing() noexcept {
+    characters_ = emptyCharacters_;
+    length_ = 0;
+    capacity_ = 0;
+  }
+  void freeBuffer() noexcept;  // the value is then to be set anew
   friend KYR_EXPORT KYRString operator+(const KYRString& first, const KYRString& second);
   char* reserve(std::size_t length);  // makes an owned buffer for `length` characters; value lost
   void assign(std::string_view text);

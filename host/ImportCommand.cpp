@@ -9,6 +9,7 @@
 
 #include "foundation/KYRFile.h"
 #include "foundation/KYROption.h"
+#include "foundation/MemoryAtEnd.h"
 #include "foundation/xml/XmlRewriting.h"
 #include "host/ExitCode.h"
 #include "host/FileNames.h"
@@ -74,6 +75,8 @@ int ImportCommand::run() {
   const ModelSaver saver = makeSaver();
   TraceFile trace(settings_.traceFile);
   ProgressWatch progress(!settings_.isQuiet && settings_.format == HostLog::Format::text);
+  // A database needs memory while it is made, and is given that of the objects that were read.
+  MemoryAtEnd::leaveToSystem(formatOf(settings_) != StoreModelFormat::sqlite);
   importFile(options);
   trace.commit(normalizer_ ? &normalizer_->getReport() : nullptr);
   result_ = {std::chrono::duration<double>(Clock::now() - start).count(), saver.getCounts()};

@@ -3,8 +3,10 @@
 
 #include <algorithm>
 #include <array>
+#include <memory>
 #include <vector>
 
+#include "foundation/MemoryAtEnd.h"
 #include "foundation/xml/XmlRewriting.h"
 #include "host/InspectDiagrams.h"
 #include "host/InspectImport.h"
@@ -130,15 +132,17 @@ void InspectCommand::report() {
   std::optional<XmlRewriting> rewriting;
   if (import == nullptr && normalizer != nullptr) rewriting.emplace(input, *normalizer);
   InspectReport report;
-  XMIParser parser(&log_);
-  parser.setObserver(&report);
-  parser.parse(input);
+  auto parser = std::make_unique<XMIParser>(&log_);
+  parser->setObserver(&report);
+  parser->parse(input);
   const InspectDiagrams diagrams(log_, input);
   if (settings_.isJson) {
-    writeJson(parser, report, diagrams, import.get());
+    writeJson(*parser, report, diagrams, import.get());
   } else {
-    writeText(parser, report, diagrams, import.get());
+    writeText(*parser, report, diagrams, import.get());
   }
+  MemoryAtEnd::leaveToSystem(true);  // the command has nothing left to do
+  MemoryAtEnd::give(std::move(parser));
 }
 
 void InspectCommand::writeText(const XMIParser& parser, const InspectReport& report,

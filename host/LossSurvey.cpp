@@ -6,6 +6,7 @@
 
 #include "foundation/KYRException.h"
 #include "foundation/KYRLog.h"
+#include "foundation/MemoryAtEnd.h"
 #include "foundation/WorkerThread.h"
 #include "host/ArrivalCount.h"
 #include "host/NormalizeSummary.h"
@@ -46,9 +47,16 @@ void LossSurvey::wait() noexcept {
 }
 
 std::shared_ptr<const XmlDocument> LossSurvey::rewrite(const std::shared_ptr<const XmlDocument>& document) {
-  wait();  // a second reading of the file: the rules of the first use the normalizer
-  std::packaged_task<std::shared_ptr<const XmlDocument>()> rules(
-      [this, document] { return normalizer_.rewrite(document); });
+  // An import reads its file more than once, and gets the same document each time as long as it lives.
+  if (surveyed_.lock() == document) return document;
+  wait();  // the file has changed meanwhile: the rules of the first reading use the normalizer
+  surveyed_ = document;
+  std::packaged_task<std::shared_ptr<const XmlDocument>()> rules([this, document] {
+    std::shared_ptr<const XmlDocument> normalized = normalizer_.rewrite(document);
+    // The file will be read once more then, so what the import leaves behind is better freed.
+    if (normalizer_.getReport().matters()) MemoryAtEnd::needMemory(true);
+    return normalized;
+  });
   normalized_ = rules.get_future();
   if (document->getNodeCount() < worthAThread) {
     rules();

@@ -41,6 +41,7 @@ class LossSurvey final : public XmlRewriter {
   void wait() noexcept;
 
   Normalizer normalizer_;
+  std::weak_ptr<const XmlDocument> surveyed_;
   std::future<std::shared_ptr<const XmlDocument>> normalized_;
   std::thread worker_;
 };

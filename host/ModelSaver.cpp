@@ -1,6 +1,8 @@
 // Saving by libkyr, counting by the host.
 #include "host/ModelSaver.h"
 
+#include "foundation/MemoryAtEnd.h"
+
 namespace {
 
 class OutputSink final : public BlockSink {
@@ -35,4 +37,5 @@ void ModelSaver::save(const KYRFile& file, const KYRStoreModel& model) {
     saveStoreModelFile(file, model, format_);
   }
   counts_ = SavedModelCounts::of(model);
+  MemoryAtEnd::leaveToSystem(true);  // nothing is made of the model any more
 }

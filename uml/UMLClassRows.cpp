@@ -6,8 +6,9 @@ namespace UMLMetamodel {
 namespace {
 
 template <class Class>
-UMLElement* make(KYRString id, KYRString name) {
-  return new Class(std::move(id), std::move(name));
+UMLElement* makeAt(void* place, KYRString id, KYRString name) {
+  static_assert(alignof(Class) == alignof(void*));
+  return new (place) Class(std::move(id), std::move(name));
 }
 
 template <class Class>
@@ -20,7 +21,7 @@ template <class Class, class... Bases>
 constexpr ClassRow row(const char* name, const char* xmiType) {
   static_assert((std::is_base_of_v<Bases, Class> && ...));
   static_assert(sizeof...(Bases) <= maxBases);
-  return {name, xmiType, sizeof...(Bases), {Bases::kind...}, &make<Class>, &cast<Class>};
+  return {name, xmiType, sizeof...(Bases), {Bases::kind...}, sizeof(Class), &makeAt<Class>, &cast<Class>};
 }
 
 }  // namespace

@@ -68,11 +68,11 @@ class UMLClass : public virtual UMLBehavioredClassifier {
 
   bool isBoundary = false;
   bool isAbstract = false;
+  bool isActive = false;
   Borrowed<UMLClassifier, KYROrderedVector> nestedClassifier;
   Borrowed<UMLProperty, KYROrderedVector> ownedAttribute;
   Borrowed<UMLOperation, KYROrderedVector> ownedOperation;
   Borrowed<UMLClass, KYRVector> superClass;
-  bool isActive = false;
   Borrowed<UMLReception, KYRVector> ownedReception;
 
   bool addNestedClassifier(UMLClassifier* entry) { return nestedClassifier.add(entry); }

@@ -55,9 +55,9 @@ class UMLProperty : public virtual UMLConnectableElement, public virtual UMLStru
   bool isDerived = false;
   bool isReadOnly = false;
   bool isDerivedUnion = false;
+  bool isComposite = false;
   KYRString default_;
   UMLAggregationKind* aggregation = nullptr;
-  bool isComposite = false;
   UMLClass* class_ = nullptr;
   Borrowed<UMLProperty, KYRVector> redefinedProperty;
   UMLAssociation* owningAssociation = nullptr;

@@ -13,6 +13,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <string_view>
 
 #include "foundation/KYRString.h"
@@ -33,7 +34,9 @@ struct ClassRow {
   const char* xmiType;  // "uml:Property"
   int baseCount;
   std::array<int, maxBases> bases;  // kinds of the direct bases, in declared order
-  UMLElement* (*make)(KYRString id, KYRString name);
+  std::size_t size;                 // of an object in bytes
+  /// Makes an object at a place of that size, where a pointer may stand.
+  UMLElement* (*makeAt)(void* place, KYRString id, KYRString name);
   void* (*cast)(UMLElement* element);  // dynamic_cast to this class
 };
 extern const std::array<ClassRow, UMLLineage::kindCount> classRows;

@@ -101,8 +101,8 @@ class UMLMultiplicityElement : public virtual UMLElement {
 
   bool isOrdered = false;
   bool isUnique = false;
-  KYRString upper;
   int lower = 0;
+  KYRString upper;
   UMLValueSpecification* upperValue = nullptr;
   UMLValueSpecification* lowerValue = nullptr;
 };

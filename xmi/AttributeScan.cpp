@@ -7,6 +7,7 @@ AttributeScan::AttributeScan() : places_(static_cast<std::size_t>(ReaderNames::g
 
 void AttributeScan::scan(const KYRStringArray& attributes) {
   attributes_ = &attributes;
+  found_.clear();
   if (++stamp_ == 0) {
     // The stamps have come round: forget all, so that none of an earlier round counts.
     places_.assign(places_.size(), Place());
@@ -17,7 +18,9 @@ void AttributeScan::scan(const KYRStringArray& attributes) {
     const int name = names.findIgnoringCase(attributes.get(i).view());
     if (name == ReaderNames::none) continue;
     Place& place = places_[static_cast<unsigned int>(name)];
-    if (place.stamp != stamp_) place = {stamp_, i};
+    if (place.stamp == stamp_) continue;
+    place = {stamp_, i};
+    found_.push_back(name);
   }
 }
 

@@ -18,6 +18,8 @@ class AttributeScan {
   /// The entry behind the first one that equals the name of that number (ReaderNames), or the empty
   /// text.
   const KYRString& get(int name) const noexcept;
+  /// The numbers of the names that `get` finds something for, in order of first mention.
+  const std::vector<int>& getFoundNames() const noexcept { return found_; }
 
  private:
   const KYRStringArray* attributes_ = nullptr;
@@ -27,5 +29,6 @@ class AttributeScan {
     std::uint32_t position = 0;
   };
   std::vector<Place> places_;
+  std::vector<int> found_;
   std::uint32_t stamp_ = 0;
 };

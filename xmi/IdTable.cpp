@@ -9,16 +9,17 @@ constexpr std::size_t firstSlots = 1024;
 
 IdTable::IdTable() : entries_(1), slots_(firstSlots) {}
 
-IdTable::Number IdTable::intern(const KYRString& id) {
+IdTable::Number IdTable::intern(const KYRString& id, std::uint32_t hash) {
   if (id.isEmpty()) return emptyId;
-  const std::uint32_t hash = id.hashCode();
   const std::size_t mask = slots_.size() - 1;
   std::size_t at = hash & mask;
   for (; slots_[at].number != emptyId; at = (at + 1) & mask) {
-    if (slots_[at].hash == hash && entries_[slots_[at].number].text == id) return slots_[at].number;
+    if (slots_[at].hash != hash) continue;
+    const KYRString& known = entries_[slots_[at].number].text;
+    if (known.getCharacters() == id.getCharacters() || known == id) return slots_[at].number;
   }
   Slot* free = &slots_[at];
-  if (entries_.size() * 2 > slots_.size()) {
+  if (entries_.size() * 3 > slots_.size() * 2) {
     grow();
     free = &findFree(hash);
   }

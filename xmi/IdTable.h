@@ -1,8 +1,8 @@
 // IdTable: the ids of one file, each text kept once under a number.
 //
-// References are noted while the file is read and resolved afterwards. Each mention of an id is
-// looked up once, when it is noted; resolving is then an array access. A number knows the first
-// object that bears the id, since links for an id that several objects bear go to the first of them.
+// Each mention of an id is looked up once, when a reference to it is noted; finding its object is then an
+// array access. A number knows the first object that bears the id, since links for an id that several
+// objects bear go to the first of them, and which kinds of links to the id wait for an object to be read.
 #pragma once
 
 #include <cstdint>
@@ -20,13 +20,40 @@ class IdTable {
 
   IdTable();
   /// The number of that id. A borrowed text must live as long as this table.
-  Number intern(const KYRString& id);
+  Number intern(const KYRString& id) { return intern(id, id.isEmpty() ? 0 : id.hashCode()); }
+  /// As above, with the hash that `announce` has given for that id.
+  Number intern(const KYRString& id, std::uint32_t hash);
+  /// Tells that an id will be interned soon, and gives its hash. Looking up an id waits for memory three
+  /// times, for its slot, its entry and its text: whoever announces first, calls `approach` and
+  /// `approachText` later, and has other things to do between, waits for none of them.
+  std::uint32_t announce(const KYRString& id) const noexcept {
+    if (id.isEmpty()) return 0;
+    const std::uint32_t hash = id.hashCode();
+    __builtin_prefetch(&slots_[hash & (slots_.size() - 1)]);
+    return hash;
+  }
+  /// Asks for the entry of an announced id.
+  void approach(std::uint32_t hash) const noexcept {
+    const Slot& slot = slots_[hash & (slots_.size() - 1)];
+    if (slot.hash == hash) __builtin_prefetch(&entries_[slot.number]);
+  }
+  /// Asks for the characters of an approached id.
+  void approachText(std::uint32_t hash) const noexcept {
+    const Slot& slot = slots_[hash & (slots_.size() - 1)];
+    if (slot.hash == hash) __builtin_prefetch(entries_[slot.number].text.getCharacters());
+  }
   /// Enters an object under its id, unless one is there already or the id is empty.
   void enter(Number id, UMLElement* object) noexcept;
   /// Asks the processor for what `find` will read of that id.
   void prefetch(Number id) const noexcept { __builtin_prefetch(&entries_[id]); }
   /// The first object entered under the id, or null.
   UMLElement* find(Number id) const noexcept { return entries_[id].object; }
+  /// Marks that a link of that relationship kind to the id waits.
+  void wait(Number id, int kind) noexcept { entries_[id].waitingKinds |= markOf(kind); }
+  /// Whether a link of that kind waits; may be true of a kind that shares its mark with another one.
+  bool isWaiting(Number id, int kind) const noexcept {
+    return (entries_[id].waitingKinds & markOf(kind)) != 0;
+  }
   const KYRString& getText(Number id) const noexcept { return entries_[id].text; }
   /// Forgets all ids and gives their memory back.
   void empty();
@@ -35,7 +62,13 @@ class IdTable {
   struct Entry {
     KYRString text;
     UMLElement* object = nullptr;
+    std::uint64_t waitingKinds = 0;
   };
+  // Ownership, kind 0, is noted for nearly every object and never waits but for foul files, so it has a
+  // mark of its own.
+  static std::uint64_t markOf(int kind) noexcept {
+    return std::uint64_t{1} << (kind == 0 ? 0 : 1 + (kind - 1) % 63);
+  }
   // The hash stands beside the number, so that walking over other ids reads no entry.
   struct Slot {
     std::uint32_t hash = 0;
@@ -45,5 +78,5 @@ class IdTable {
   void grow();
 
   std::vector<Entry> entries_;
-  std::vector<Slot> slots_;  // open addressing; a power of two, at most half full
+  std::vector<Slot> slots_;  // open addressing; a power of two, at most two thirds full
 };

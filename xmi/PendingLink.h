@@ -1,4 +1,4 @@
-// PendingLink: a reference noted during the read, resolved when the whole file is known.
+// PendingLink: a reference noted during the read that waits for the rest of the file.
 #pragma once
 
 #include <cstdint>

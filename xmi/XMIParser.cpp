@@ -3,6 +3,7 @@
 
 #include "bridge/messages/KBI_UML2XMI.h"
 #include "foundation/KYRPhaseTimes.h"
+#include "foundation/xml/XmlDocument.h"
 #include "uml/UMLClasses.h"
 #include "uml/UMLMetamodel.h"
 #include "xmi/DispatchRows.h"
@@ -50,6 +51,7 @@ UMLModel* XMIParser::parse(const KYRFile& input) {
                                                nullptr);
     }
     parser->parseFile(file);
+    texts = parser->getDocument()->getTexts();
     if (!modelSeen) KBI_UML2XMI::UML2_I_BAD_HEADERUML2_ERROR.throwException();
     reportUnknownTags();
     {
@@ -66,9 +68,10 @@ UMLModel* XMIParser::parse(const KYRFile& input) {
   return model;
 }
 
-void XMIParser::dropLinks() {
+void XMIParser::dropReading() {
   std::vector<PendingLink>().swap(pendingLinks);
   ids.empty();
+  parser.reset();
 }
 
 UMLElement* XMIParser::getElement(int offset) const noexcept {
@@ -133,6 +136,8 @@ void XMIParser::resolveLinks() {
   }
 }
 
+void XMIParser::Destroy::operator()(UMLElement* object) const noexcept { std::destroy_at(object); }
+
 void XMIParser::cleanUp() noexcept {
   const KYRPhaseTimer timer(KYRPhase::release);
   elementStack.clear();
@@ -144,9 +149,11 @@ void XMIParser::cleanUp() noexcept {
     UMLElement* const element = objects.at(i);
     for (UMLTaggedValue* const tag : element->taggedValues) delete tag;
     element->taggedValues.clear();
-    delete element;
+    std::destroy_at(element);
   }
   objects.empty();
+  objectMemory.release();
   model = nullptr;
   parser.reset();
+  texts.reset();
 }

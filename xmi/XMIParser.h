@@ -1,12 +1,13 @@
 // XMIParser: one XMI file becomes a tree of UML objects.
 //
 // The file is streamed once. Each start tag is looked up in the dispatch tables; readers make
-// objects, push them on the element stack and only note references. After the last tag the parser
-// reports unknown tags, resolves the references, attaches comments and runs the tool extension.
+// objects, push them on the element stack and note references. What a reference ties together is tied as
+// soon as both objects are known. After the last tag the parser reports unknown tags, resolves the
+// references that are left, attaches comments and runs the tool extension.
 //
-// Ownership: the parser owns every UML object and kind object, and the document whose texts they
-// show; all die with it. A parser reads one file. Two parsers must not run at once in one process,
-// since the dispatch rows are shared.
+// Ownership: the parser owns every UML object and kind object, and holds the document whose texts they
+// show; all die with it, but for texts that somebody else keeps. A parser reads one file. Two parsers must
+// not run at once in one process, since the dispatch rows are shared.
 #pragma once
 
 #include <memory>
@@ -24,11 +25,13 @@
 #include "xmi/IdTable.h"
 #include "xmi/PendingLink.h"
 #include "xmi/TagHandler.h"
+#include "xmi/UMLObjectMemory.h"
 #include "xmi/UMLObjectTable.h"
 #include "xmi/UnknownTag.h"
 
 class ClassPlan;
 class ReadObserver;
+class XmlTextArena;
 
 class XMIParser {
  public:
@@ -46,8 +49,11 @@ class XMIParser {
   /// Raises KYRException: "[KBI_UML2XMI_F0008] ..." when no model element started anywhere in the
   /// file, and whatever the XML reader raises. After an exception the parser holds no object of the file.
   UMLModel* parse(const KYRFile& file);
-  /// Gives back what only reading and linking need. The parser must not parse again.
-  void dropLinks();
+  /// Gives back what only reading and linking need, the document but for its texts. The parser must not
+  /// parse again.
+  void dropReading();
+  /// What the texts of the objects show; null before `parse`. It may be kept longer than the parser.
+  std::shared_ptr<const XmlTextArena> getTexts() const noexcept { return texts; }
 
   /// All UML objects, in order of reading.
   const UMLObjectTable& getObjects() const noexcept { return objects; }
@@ -90,6 +96,18 @@ class XMIParser {
     UMLElement* element;
     IdTable::Number id;
   };
+  /// An object in `objectMemory` that `objects` does not own yet.
+  struct Destroy {
+    void operator()(UMLElement* object) const noexcept;
+  };
+  using MadeObject = std::unique_ptr<UMLElement, Destroy>;
+  /// A reference of the element being started.
+  struct Reference {
+    const KYRString* id;
+    std::uint32_t hash;
+    int position;  // in the plan
+    int linkKind;
+  };
   /// One for each open XML element, skipped ones too; the row is null when none matched.
   struct HandlerEntry {
     TagHandler* row;
@@ -115,12 +133,11 @@ class XMIParser {
   // What readers share. The attributes are those of the element being started.
   const KYRString& attribute(int name) const noexcept { return scan.get(name); }
   void readPlan(const ClassPlan& plan, const KYRString& tag);
-  static std::unique_ptr<UMLElement> makeObject(const ClassPlan& plan, const KYRString& id,
-                                                const KYRString& name);
-  void completeObject(const ClassPlan& plan, const KYRString& tag, std::unique_ptr<UMLElement> object,
-                      IdTable::Number id);
+  MadeObject makeObject(const ClassPlan& plan, const KYRString& id, const KYRString& name);
+  void completeObject(const ClassPlan& plan, const KYRString& tag, MadeObject object, IdTable::Number id);
   void readScalars(const ClassPlan& plan, UMLElement& element);
-  void noteReferences(const ClassPlan& plan, IdTable::Number id);
+  void announceReferences(const ClassPlan& plan);
+  void noteReferences(IdTable::Number id);
   void tieToParent(const ClassPlan& plan, const KYRString& tag, IdTable::Number id);
   void noteLink(IdTable::Number first, IdTable::Number second, int kind);
   void detectVersions();
@@ -133,8 +150,9 @@ class XMIParser {
   void runToolExtension();
   void cleanUp() noexcept;
 
-  std::unique_ptr<KYRSAX2Parser> parser;  // keeps the document that the texts of the objects show
-  UnknownTagHashtable unknownTags;        // owned
+  std::unique_ptr<KYRSAX2Parser> parser;
+  std::shared_ptr<const XmlTextArena> texts;  // of the document, which the texts of the objects show
+  UnknownTagHashtable unknownTags;            // owned
   TagHandlerHashtable contextHandlers;
   TagHandlerHashtable typeHandlers;
   TagHandlerHashtable generalHandlers;
@@ -143,7 +161,9 @@ class XMIParser {
   std::vector<OpenElement> elementStack;
   KYRString text;
   std::vector<HandlerEntry> handlerStack;
-  UMLObjectTable objects;  // owned
+  std::vector<Reference> references;
+  UMLObjectMemory objectMemory;
+  UMLObjectTable objects;  // owned, in objectMemory
   std::vector<PendingLink> pendingLinks;
   KYRString exporter;
   KYRString exporterVersion;

@@ -17,7 +17,12 @@ void XMIParser::endCallback(void* userData, const KYRString& tag) {
 
 void XMIParser::charactersCallback(void* userData, const KYRString& chunk) {
   auto& self = *static_cast<XMIParser*>(userData);
-  if (self.skipDepth == 0) self.text += chunk;
+  if (self.skipDepth != 0) return;
+  if (self.text.isEmpty()) {
+    self.text.borrow(chunk);
+  } else {
+    self.text += chunk;
+  }
 }
 
 void XMIParser::startTag(const KYRString& writtenTag, const KYRStringArray& attributes) {

@@ -1,7 +1,7 @@
 // Walks over the node array: a subtree is a range, so a sibling is where the range ends.
 #include "foundation/xml/XmlDocument.h"
 
-XmlDocument::XmlDocument() = default;
+XmlDocument::XmlDocument() : arena_(std::make_shared<XmlTextArena>()) {}
 
 XmlDocument::~XmlDocument() = default;
 
@@ -38,7 +38,7 @@ std::size_t XmlDocument::getMemorySize() const noexcept {
   std::size_t size = 0;
   for (const XmlDocument* each = this; each != nullptr; each = each->source_.get()) {
     size += sizeof *each + each->nodes_.getMemorySize() + each->attributes_.getMemorySize() +
-            each->texts_.getMemorySize() + each->names_.getMemorySize() + each->arena_.getMemorySize();
+            each->texts_.getMemorySize() + each->names_.getMemorySize() + each->arena_->getMemorySize();
   }
   return size;
 }

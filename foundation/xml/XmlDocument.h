@@ -64,7 +64,9 @@ class KYR_EXPORT XmlDocument {
   std::uint32_t getLine(Node node) const noexcept { return nodes_[node].lineOrText; }
   /// Column of the element's "<", from 1, in characters.
   std::uint32_t getColumn(Node node) const noexcept { return nodes_[node].column; }
-  /// Bytes that the arena holds.
+  /// What the characters of all names and texts live in. It may be kept longer than the document.
+  std::shared_ptr<const XmlTextArena> getTexts() const noexcept { return arena_; }
+  /// Bytes that the document holds.
   std::size_t getMemorySize() const noexcept;
 
  private:
@@ -89,6 +91,6 @@ class KYR_EXPORT XmlDocument {
   XmlBlockArray<AttributeRecord> attributes_;
   XmlBlockArray<KYRString> texts_;
   XmlNameTable names_;
-  XmlTextArena arena_;
-  std::shared_ptr<const XmlDocument> source_;  // a rewritten document shows the texts of this one
+  std::shared_ptr<XmlTextArena> arena_;
+  std::shared_ptr<const XmlDocument> source_;  // a rewritten document shares the texts of this one
 };

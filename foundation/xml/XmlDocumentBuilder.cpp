@@ -31,10 +31,10 @@ void XmlDocumentBuilder::startElement(std::string_view tag, const Attribute* att
   position_ = position;
   for (const Attribute* attribute = attributes; attribute != attributes + attributeCount; ++attribute) {
     requireRoom(document_->attributes_.size());
-    document_->attributes_.emplaceBack(document_->names_.intern(attribute->name, document_->arena_),
+    document_->attributes_.emplaceBack(document_->names_.intern(attribute->name, *document_->arena_),
                                        storeText(attribute->value));
   }
-  appendNode(document_->names_.intern(tag, document_->arena_), saturate(position.line),
+  appendNode(document_->names_.intern(tag, *document_->arena_), saturate(position.line),
              saturate(position.column));
   open_ = document_->getNodeCount() - 1;
   if (listener_ != nullptr) listener_->startElement(open_);
@@ -98,7 +98,7 @@ std::uint32_t XmlDocumentBuilder::storeText(std::string_view text) {
 std::uint32_t XmlDocumentBuilder::addText(std::string_view text) {
   const std::size_t number = document_->texts_.size();
   requireRoom(number);
-  document_->texts_.appendMade([&] { return KYRString::borrowed(document_->arena_.store(text)); });
+  document_->texts_.appendMade([&] { return KYRString::borrowed(document_->arena_->store(text)); });
   return static_cast<std::uint32_t>(number);
 }
 

@@ -26,6 +26,7 @@ XmlDocumentEditor::XmlDocumentEditor(std::shared_ptr<const XmlDocument> source)
   for (Name name = 0; name < source_->getNameCount(); ++name) intern(source_->getNameText(name).view());
   result_->texts_.shareBlocks(source_->texts_);
   result_->source_ = source_;
+  result_->arena_->keep(source_->arena_);
   heads_.reserve(withRoom(source_->getNodeCount()));
   for (Node node = 0; node < source_->getNodeCount(); ++node) {
     heads_.push_back(
@@ -53,7 +54,7 @@ void XmlDocumentEditor::link() {
 }
 
 XmlDocumentEditor::Name XmlDocumentEditor::intern(std::string_view name) {
-  return result_->names_.intern(name, result_->arena_);
+  return result_->names_.intern(name, *result_->arena_);
 }
 
 XmlDocumentEditor::Node XmlDocumentEditor::getFirst(Node node) const noexcept {
@@ -125,7 +126,7 @@ XmlDocumentEditor::AttributeRecord* XmlDocumentEditor::ownAttributes(Node node, 
 std::uint32_t XmlDocumentEditor::addText(std::string_view text) {
   const std::size_t number = result_->texts_.size();
   requireRoom(number);
-  result_->texts_.appendMade([&] { return KYRString::borrowed(result_->arena_.store(text)); });
+  result_->texts_.appendMade([&] { return KYRString::borrowed(result_->arena_->store(text)); });
   return static_cast<std::uint32_t>(number);
 }
 

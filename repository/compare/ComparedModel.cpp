@@ -23,7 +23,7 @@ struct ComparedModel::Listing {
   void endList() {}
 };
 
-ComparedModel::ComparedModel(const KYRStoreModel& model) : numbers_(model) {
+ComparedModel::ComparedModel(const KYRStoreModel& model) : numbers_(model, StoredNumbers::Listing::all) {
   Listing listing{nodes, {}, {}};
   walkStored(model, listing);
 }

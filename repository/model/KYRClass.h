@@ -32,6 +32,12 @@ class KYR_EXPORT KYRClass : public KYRClassifier {
   KYRClass() = default;
   ~KYRClass() override;
   int getElementType() const override { return KYRElementType::class_; }
+  /// The object as the class that it is; null when it is none, or null.
+  static KYRClass* from(KYRObject* object) noexcept {
+    const bool isClass = object != nullptr && object->getElementType() == KYRElementType::class_;
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-static-cast-downcast): no other class has that number
+    return isClass ? static_cast<KYRClass*>(object) : nullptr;
+  }
 
   /// Adds the operation as it is named: overloads share a name.
   void addOperation(KYROperation* operation);

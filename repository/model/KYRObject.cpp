@@ -81,11 +81,14 @@ void KYRObject::depthTraversal(KYRTraversalOperation& operation) {
 }
 
 void KYRObject::setName(const KYRString& name) {
+  if (name != name_) takeName(name);  // a copy first, since nothing behind it can fail
+}
+
+void KYRObject::takeName(KYRString name) {
   if (name == name_) return;
-  KYRString copy = name;  // first, since nothing behind it can fail
   if (home_ != nullptr) home_->leaveNames(*this);
   leaveNames();
-  name_ = std::move(copy);
+  name_ = std::move(name);
   if (home_ != nullptr) home_->joinNames(*this);
   joinNames();
 }

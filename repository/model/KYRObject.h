@@ -39,6 +39,9 @@ class KYR_EXPORT KYRObject : public KYR_Object {
   /// in order of adding. The operation must not add, move or delete objects.
   virtual void depthTraversal(KYRTraversalOperation& operation);
   virtual void setName(const KYRString& name);
+  /// As setName, but the text is taken over: one that only shows characters (KYRString::borrow) goes on
+  /// showing them, so they must live as long as the object. See KYRStoreModel::keepTexts.
+  void takeName(KYRString name);
   virtual const KYRString& getName() const;
 
   /// The names on the way to the object joined by "/": with `belowModel` from the first object below
@@ -70,5 +73,5 @@ class KYR_EXPORT KYRObject : public KYR_Object {
   KYRString name_;
   KYRObjectCollection* home_ = nullptr;  // the owning collection
   // Scratch: the next object while a chain of objects is built, the number while a model is saved.
-  mutable std::uintptr_t scratch_ = 0;
+  mutable std::uint64_t scratch_ = 0;
 };

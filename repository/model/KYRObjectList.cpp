@@ -8,13 +8,13 @@
 KYRObjectList::KYRObjectList() noexcept = default;
 KYRObjectList::~KYRObjectList() = default;
 
-KYRObject* KYRObjectList::getAt(std::uint32_t index) const noexcept {
+KYRObject* KYRObjectList::getAmongGaps(std::uint32_t index) const noexcept {
   const std::uint32_t count = getCount();
   if (index >= count) return nullptr;
   // There are no gaps at the ends.
   if (index == 0) return entries_[first_];
   if (index == count - 1) return entries_.back();
-  if (gaps_ != 0) closeGaps();
+  closeGaps();
   return entries_[static_cast<std::size_t>(first_) + index];
 }
 

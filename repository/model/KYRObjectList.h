@@ -5,6 +5,7 @@
 // so that lists that only grow never pay for one.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <vector>
@@ -24,7 +25,10 @@ class KYR_EXPORT KYRObjectList {
   std::uint32_t getCount() const noexcept {
     return static_cast<std::uint32_t>(entries_.size()) - first_ - gaps_;
   }
-  KYRObject* getAt(std::uint32_t index) const noexcept;
+  KYRObject* getAt(std::uint32_t index) const noexcept {
+    return gaps_ == 0 ? (index < getCount() ? entries_[std::size_t{first_} + index] : nullptr)
+                      : getAmongGaps(index);
+  }
   bool contains(const KYRObject* object) const noexcept;
   void add(KYRObject* object);
   /// False when it is not there. Needs no memory: without it only speed is lost.
@@ -41,6 +45,7 @@ class KYR_EXPORT KYRObjectList {
 
  private:
   static constexpr std::uint32_t none = KYRPointerIndex::none;
+  KYRObject* getAmongGaps(std::uint32_t index) const noexcept;
   std::uint32_t find(const KYRObject* object) const noexcept;
   bool index() const noexcept;
   void closeGaps() const noexcept;

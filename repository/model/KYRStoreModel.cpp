@@ -1,6 +1,8 @@
 // The root of everything that a bridge builds.
 #include "repository/model/KYRStoreModel.h"
 
+#include <utility>
+
 #include "foundation/KYRPhaseTimes.h"
 #include "repository/KYRRepositoryMessages.h"
 #include "repository/model/KYRDataPackage.h"
@@ -23,6 +25,8 @@ void KYRStoreModel::addDataPackage(KYRDataPackage* package) {
   }
   KYRLinks::own(dataPackages, this, package);
 }
+
+void KYRStoreModel::keepTexts(std::shared_ptr<const void> texts) { texts_.push_back(std::move(texts)); }
 
 void KYRStoreModel::listOwned(KYROwnedLists& lists) const {
   KYRModel::listOwned(lists);

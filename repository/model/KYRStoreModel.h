@@ -1,6 +1,9 @@
 // KYRStoreModel: the model that a bridge builds and a host keeps.
 #pragma once
 
+#include <memory>
+#include <vector>
+
 #include "repository/model/KYRModel.h"
 #include "repository/model/KYRStoreType.h"
 
@@ -23,7 +26,13 @@ class KYR_EXPORT KYRStoreModel : public KYRModel {
   /// Adds a data package. Raises a KYRException when the model holds another one of exactly that
   /// name; the package then still belongs to the caller.
   void addDataPackage(KYRDataPackage* package);
+  /// Keeps what characters live in that texts of the model only show (KYRString::borrow), until all
+  /// objects of the model are gone. What was kept before is kept as well.
+  void keepTexts(std::shared_ptr<const void> texts);
 
  protected:
   void listOwned(KYROwnedLists& lists) const override;
+
+ private:
+  std::vector<std::shared_ptr<const void>> texts_;
 };

@@ -17,13 +17,14 @@ class KYR_EXPORT BackgroundSink : public BlockSink {
   explicit BackgroundSink(BlockSink& target) : target_(target) {}
   /// Blocks that `finish` has not waited for may be lost.
   ~BackgroundSink() override;
-  /// Copies the block and returns; waits when two others wait already. Raises what an earlier block raised.
+  /// Copies the block and returns; waits when eight others wait already. Raises what an earlier block raised.
   void write(std::string_view block) override;
   /// Returns when the target has taken all blocks. Raises what it raised; to be called once, at the end.
   void finish();
 
  private:
-  static constexpr std::size_t blockCount = 2;
+  static constexpr std::size_t blockCount =
+      8;  // enough to go on for a while when the disk holds the thread up
 
   void start();
   void run() noexcept;

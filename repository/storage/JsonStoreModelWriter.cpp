@@ -22,11 +22,18 @@ class JsonStoreModelWriter::Lines
     new (level_stack_.Push<Level>()) Level(false);
     WriteStartObject();
   }
-  void key(std::string_view name) { putPlain(name); }
+  void key(std::string_view name) { plain(name); }
+  /// A text that holds nothing to be escaped.
+  void plain(std::string_view text) {
+    Prefix(rapidjson::kStringType);
+    os_->Put('"');
+    os_->write(text);
+    os_->Put('"');
+  }
   void string(std::string_view value) {
     switch (examineUtf8(value)) {
       case Utf8Shape::plain:
-        putPlain(value);
+        plain(value);
         break;
       case Utf8Shape::escaped:
         String(value.data(), static_cast<rapidjson::SizeType>(value.size()));
@@ -38,14 +45,6 @@ class JsonStoreModelWriter::Lines
         break;
       }
     }
-  }
-
- private:
-  void putPlain(std::string_view text) {
-    Prefix(rapidjson::kStringType);
-    os_->Put('"');
-    os_->write(text);
-    os_->Put('"');
   }
 };
 
@@ -94,7 +93,7 @@ void JsonStoreModelWriter::beginObject(unsigned int id, std::string_view classNa
   json_->key("id");
   json_->Uint(id);
   json_->key("class");
-  json_->string(className);
+  json_->plain(className);
 }
 
 void JsonStoreModelWriter::endObject() { json_->EndObject(); }

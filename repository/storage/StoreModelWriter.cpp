@@ -13,12 +13,14 @@ namespace {
 
 class Saving {
  public:
-  Saving(const KYRStoreModel& model, StoreModelWriter& writer) : numbers_(model), writer_(writer) {}
+  Saving(const KYRStoreModel& model, StoreModelWriter& writer)
+      : numbers_(model, StoredNumbers::Listing::none), writer_(writer) {}
 
   void enter(const KYRObject& object, const StoredClass& stored) {
     writer_.beginObject(++entered_, stored.name);  // the numbers follow the walk
     for (const StoredField* field : stored.values) write(object, *field);
-    if (const auto* element = dynamic_cast<const KYRElement*>(&object)) writePropertyValues(*element);
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-static-cast-downcast): the row says that it is one
+    if (stored.isElement) writePropertyValues(static_cast<const KYRElement&>(object));
   }
   void leave() { writer_.endObject(); }
   void beginList(const StoredField& field) { writer_.beginList(field.name); }

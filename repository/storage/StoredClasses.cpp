@@ -1,6 +1,7 @@
 // The classes of which objects are saved, each with the rows of its whole lineage.
 #include "repository/storage/StoredClasses.h"
 
+#include <algorithm>
 #include <array>
 #include <unordered_map>
 
@@ -75,6 +76,7 @@ const Made made[] = {
 void appendRows(StoredClass& stored, int elementType) {
   std::vector<int> lineage;
   for (int type = elementType; type != 0; type = Type::getBase(type)) lineage.push_back(type);
+  stored.isElement = std::find(lineage.begin(), lineage.end(), Type::element) != lineage.end();
   for (std::size_t at = lineage.size(); at > 0; --at) {
     const StoredRows* const declared = findStoredRows(lineage[at - 1]);
     for (std::size_t i = 0; declared != nullptr && i < declared->count; ++i) {
@@ -91,7 +93,7 @@ struct Tables {
 
   Tables() {
     for (const Made& entry : made) {
-      StoredClass stored{entry.elementType, Type::getClassName(entry.elementType), entry.make, {}, {}};
+      StoredClass stored{entry.elementType, Type::getClassName(entry.elementType), entry.make, false, {}, {}};
       appendRows(stored, entry.elementType);
       byNumber[static_cast<std::size_t>(entry.elementType)] = classes.size();
       byName.emplace(stored.name, classes.size());

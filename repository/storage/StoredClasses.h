@@ -12,6 +12,8 @@ struct StoredClass {
   std::string_view name;
   /// Makes an object; null for the model, which is there before anything is loaded.
   KYRObject* (*make)();
+  /// Whether the class is a KYRElement, which has property values.
+  bool isElement;
   /// Texts, numbers, flags and references, those of base classes first.
   std::vector<const StoredField*> values;
   /// The lists of children, in the same order.

@@ -1,28 +1,43 @@
 // Numbers are given on a walk of their own, since references also point forward.
 #include "repository/storage/StoredNumbers.h"
 
+#include <atomic>
+
 #include "repository/storage/StoredWalk.h"
 
+namespace {
+
+constexpr int numberBits = 32;
+
+std::uint64_t nextMark() noexcept {
+  static std::atomic<std::uint32_t> last{0};
+  constexpr std::uint64_t noPointer = std::uint64_t{1} << 31;  // the upper half is not the process's own
+  return (noPointer | ++last) << numberBits;
+}
+
+}  // namespace
+
 struct StoredNumbers::Numbering {
-  std::vector<const KYRObject*>& objects;
+  StoredNumbers& numbers;
+  const Listing listing;
   void enter(const KYRObject& object, const StoredClass&) {
-    objects.push_back(&object);
-    object.scratch_ = objects.size();
+    object.scratch_ = numbers.mark_ | ++numbers.count_;
+    if (listing == Listing::all) numbers.objects_.push_back(&object);
   }
   void leave() {}
   void beginList(const StoredField&) {}
   void endList() {}
 };
 
-StoredNumbers::StoredNumbers(const KYRStoreModel& model) {
-  Numbering numbering{objects_};
+StoredNumbers::StoredNumbers(const KYRStoreModel& model, Listing listing) : mark_(nextMark()) {
+  Numbering numbering{*this, listing};
   walkStored(model, numbering);
 }
 
 unsigned int StoredNumbers::get(const KYRObject* object) const noexcept {
   if (object == nullptr) return 0;
-  const std::uintptr_t number = object->scratch_;
-  return number != 0 && number <= objects_.size() && objects_[number - 1] == object
-             ? static_cast<unsigned int>(number)
-             : 0;
+  const std::uint64_t kept = object->scratch_;
+  const auto number = static_cast<unsigned int>(kept);
+  if (objects_.empty()) return kept >> numberBits == mark_ >> numberBits ? number : 0;
+  return number != 0 && number <= objects_.size() && objects_[number - 1] == object ? number : 0;
 }

@@ -1,23 +1,29 @@
 // StoredNumbers: the id of each object of a model that is being saved: its place in the document.
 #pragma once
 
+#include <cstdint>
 #include <vector>
 
 #include "repository/model/KYRStoreModel.h"
 
 class KYR_EXPORT StoredNumbers {
  public:
-  /// Numbers all that the model holds, from 1. The model must not change while the numbers are used.
-  explicit StoredNumbers(const KYRStoreModel& model);
+  enum class Listing { none, all };
+  /// Numbers all that the model holds, from 1. The model must not change while the numbers are used. With
+  /// `all` an object can be asked for by its number; without, nobody else may number the model meanwhile.
+  StoredNumbers(const KYRStoreModel& model, Listing listing);
   /// 0 for null and for an object that the model does not hold.
   unsigned int get(const KYRObject* object) const noexcept;
-  /// The object of a number from 1 to `getCount()`.
+  /// The object of a number from 1 to `getCount()`, if they are listed.
   const KYRObject* at(unsigned int number) const { return objects_[number - 1]; }
-  unsigned int getCount() const noexcept { return static_cast<unsigned int>(objects_.size()); }
+  unsigned int getCount() const noexcept { return count_; }
 
  private:
   struct Numbering;
-  // An object keeps its number itself; the list tells a number of this model from what else may stand
-  // there.
+  // An object keeps its number itself, below the mark of the numbering it stems from. No mark is used
+  // twice in a process but after two thousand million others, and none looks like a pointer, which may
+  // stand in the same place. Numbers that are listed are told from others by the list.
+  std::uint64_t mark_;
+  unsigned int count_ = 0;
   std::vector<const KYRObject*> objects_;
 };

@@ -56,6 +56,27 @@ bool isPlainWord(std::uint64_t word) noexcept {
   return (marks & upper) == 0;
 }
 
+std::uint64_t wordAt(const char* bytes) noexcept {
+  std::uint64_t word = 0;
+  std::memcpy(&word, bytes, sizeof word);
+  return word;
+}
+
+// Whether a text is plain throughout. The last bytes are looked at together with some before them.
+bool isPlain(std::string_view text) noexcept {
+  constexpr std::size_t size = sizeof(std::uint64_t);
+  if (text.size() < size) {
+    char padded[size] = {' ', ' ', ' ', ' ', ' ', ' ', ' ', ' '};
+    for (std::size_t at = 0; at < text.size(); ++at) padded[at] = text[at];
+    return isPlainWord(wordAt(padded));
+  }
+  const char* const last = text.data() + text.size() - size;
+  for (const char* at = text.data(); at < last; at += size) {
+    if (!isPlainWord(wordAt(at))) return false;
+  }
+  return isPlainWord(wordAt(last));
+}
+
 bool isEscaped(char character) noexcept {
   return static_cast<Byte>(character) < 0x20 || character == '"' || character == '\\';
 }
@@ -63,15 +84,12 @@ bool isEscaped(char character) noexcept {
 }  // namespace
 
 Utf8Shape examineUtf8(std::string_view text) noexcept {
+  if (isPlain(text)) return Utf8Shape::plain;
   Utf8Shape shape = Utf8Shape::plain;
   while (!text.empty()) {
-    std::uint64_t word = 0;
-    if (text.size() >= sizeof word) {
-      std::memcpy(&word, text.data(), sizeof word);
-      if (isPlainWord(word)) {
-        text.remove_prefix(sizeof word);
-        continue;
-      }
+    if (text.size() >= sizeof(std::uint64_t) && isPlainWord(wordAt(text.data()))) {
+      text.remove_prefix(sizeof(std::uint64_t));
+      continue;
     }
     if (isEscaped(text.front())) shape = Utf8Shape::escaped;
     bool isValid = false;

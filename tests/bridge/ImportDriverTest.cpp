@@ -148,6 +148,18 @@ TEST(ImportDriver, WithADataStoreTheModelIsPhysicalAndBearsIt) {
   EXPECT_EQ(text(watched.model.dataStore), "ORACLE");
 }
 
+// The parser and the document are gone by then.
+TEST(ImportDriver, NamesAndIdsShowTheCharactersOfTheFileWhichTheModelKeeps) {
+  const ImportedModel imported(xmi(oneClass));
+  const KYRDesignPackage* const package = imported.model.designPackages.get("P");
+  ASSERT_NE(package, nullptr);
+  const KYRObject* const converted = package->elements.get("C");
+  ASSERT_NE(converted, nullptr);
+  EXPECT_TRUE(package->getName().isBorrowed());
+  EXPECT_TRUE(converted->sourceId.isBorrowed());
+  EXPECT_EQ(converted->sourceId, "c");
+}
+
 TEST(ImportDriver, AMissingFileOptionIsAnExceptionThatNamesIt) {
   WatchedImport watched(xmi(oneClass));
   watched.options.removeAll();

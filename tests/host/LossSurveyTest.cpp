@@ -3,6 +3,8 @@
 
 #include <cstdio>
 
+#include "foundation/MemoryAtEnd.h"
+#include "foundation/xml/XmlDocumentReader.h"
 #include "tests/convert/ImportedModel.h"
 #include "xmi/DispatchRows.h"
 #include "xmi/XMIParser.h"
@@ -67,6 +69,20 @@ TEST(LossSurvey, ALargeFileIsLookedAtWhileTheImportGoesOn) {
       saved);
   ASSERT_TRUE(surveyed.loss.has_value());
   EXPECT_EQ(surveyed.loss->classes, 10000U);
+}
+
+// What a rule would cure is read once more later on, which takes memory; that tells that the rules were run.
+TEST(LossSurvey, ADocumentThatIsReadAgainIsNotLookedAtAgain) {
+  const TemporaryFile file(xmi("<nestedPackage xmi:id='p'>" + twoClasses + "</nestedPackage>"));
+  const auto document = readXmlFile(file.file(), nullptr, false);
+  LossSurvey survey("shop.xmi");
+  MemoryAtEnd::leaveToSystem(true);
+  EXPECT_EQ(survey.rewrite(document), document);
+  EXPECT_FALSE(MemoryAtEnd::isLeftToSystem());
+  MemoryAtEnd::needMemory(false);
+  EXPECT_EQ(survey.rewrite(document), document);
+  EXPECT_TRUE(MemoryAtEnd::isLeftToSystem());
+  MemoryAtEnd::leaveToSystem(false);
 }
 
 TEST(LossSurvey, AFileThatIsGoneMeanwhileTakesNothingFromTheImport) {

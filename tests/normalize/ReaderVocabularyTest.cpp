@@ -5,6 +5,7 @@
 
 #include <string>
 
+#include "tests/support/MadeElement.h"
 #include "uml/UMLClasses.h"
 #include "uml/UMLMetamodel.h"
 #include "uml/read/ClassPlan.h"
@@ -31,8 +32,7 @@ TEST(ReaderVocabulary, FindsTheRowThatTheReaderTakes) {
     if (row.tag != nullptr) table.add(&row, false, nullptr);
   }
   for (int kind = 0; kind < UMLLineage::kindCount; ++kind) {
-    const std::unique_ptr<UMLElement> object(
-        UMLMetamodel::classRows[static_cast<unsigned int>(kind)].make(KYRString(), KYRString()));
+    const std::unique_ptr<UMLElement> object = madeElement(kind);
     for (const TagHandler& row : DispatchRows::get().context) {
       if (row.tag == nullptr) continue;
       ASSERT_EQ(ReaderVocabulary::findRow(vocabulary.find(row.tag), kind),

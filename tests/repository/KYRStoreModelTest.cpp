@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <string>
 
 #include "foundation/KYRException.h"
 #include "repository/model/KYRAssociation.h"
@@ -24,6 +25,27 @@ TEST(KYRStoreModel, HasANameAndNoParentAndTheElementType2) {
   EXPECT_EQ(model.getElementType(), 2);
   EXPECT_EQ(model.designLevel, 0);
   EXPECT_EQ(model.storeType, 0);
+}
+
+TEST(KYRStoreModel, TextsThatOnlyShowCharactersAreKeptAliveByTheModel) {
+  std::weak_ptr<const void> watched;
+  {
+    KYRStoreModel model;
+    const auto characters = std::make_shared<const std::string>("a name that is long enough for the heap");
+    watched = characters;
+    auto* const package = new KYRDesignPackage();
+    package->takeName(KYRString::borrowed(*characters));
+    model.addDesignPackage(package);
+    model.keepTexts(characters);
+    model.keepTexts(std::make_shared<const std::string>("more"));
+    EXPECT_TRUE(package->getName().isBorrowed());
+    EXPECT_EQ(package->getName().getCharacters(), characters->data());
+    EXPECT_EQ(model.designPackages.get(characters->c_str()), package);
+    package->setName(package->getName() + "!");
+    EXPECT_FALSE(package->getName().isBorrowed());
+    EXPECT_EQ(model.designPackages.get(characters->c_str()), nullptr);
+  }
+  EXPECT_TRUE(watched.expired());
 }
 
 TEST(KYRStoreModel, TopPackagesKeepANameThatIsTaken) {

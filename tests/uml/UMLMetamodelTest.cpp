@@ -8,6 +8,7 @@
 #include <memory>
 #include <set>
 
+#include "tests/support/MadeElement.h"
 #include "tests/uml/GoldenText.h"
 #include "uml/UMLCast.h"
 #include "uml/UMLClasses.h"
@@ -20,10 +21,6 @@ namespace {
 using namespace UMLMetamodel;
 
 const char* className(int kind) { return classRows[static_cast<std::size_t>(kind)].name; }
-
-std::unique_ptr<UMLElement> make(int kind) {
-  return std::unique_ptr<UMLElement>(classRows[static_cast<std::size_t>(kind)].make("id", "name"));
-}
 
 // The class of the kind object that a scalar holds is told by what its literals parse to.
 std::string typeName(const ScalarRow& row) {
@@ -47,7 +44,7 @@ std::string typeName(const ScalarRow& row) {
   };
   for (const auto& [literal, name] : literals) {
     UMLKindPool pool;
-    const auto object = make(row.owner);
+    const auto object = madeElement(row.owner);
     void* const owner = umlCastTo(object.get(), row.owner);
     row.set(owner, literal, pool);
     if (row.getNumber(owner) == 1) return name;
@@ -109,6 +106,20 @@ TEST(UMLMetamodel, LinksHaveTheirNumbersNamesClassesAndEffects) {
   EXPECT_EQ(dump.str(), readGolden("links.txt"));
 }
 
+// The reader makes links while it reads, and keeps the order of those of one kind only.
+TEST(UMLMetamodel, EveryFieldIsFilledByLinksOfOneKind) {
+  std::set<void (*)(void*, void*)> fills;
+  std::size_t ends = 0;
+  for (const LinkRow& row : linkRows) {
+    for (const LinkEnd* end : {&row.first, &row.second}) {
+      if (end->fill == nullptr) continue;
+      fills.insert(end->fill);
+      ++ends;
+    }
+  }
+  EXPECT_EQ(fills.size(), ends);
+}
+
 TEST(UMLMetamodel, EveryFieldOfTheClassTreeIsInATable) {
   // golden: "UMLClass.ownedAttribute KYROrderedVector of UMLProperty"
   std::set<std::string> golden;
@@ -163,7 +174,7 @@ TEST(UMLMetamodel, ReaderDataOfEachClassIsAsWrittenOut) {
 
 TEST(UMLMetamodel, IsKindOfAgreesWithDynamicCastForAllPairs) {
   for (int kind = 0; kind < UMLLineage::kindCount; ++kind) {
-    const auto object = make(kind);
+    const auto object = madeElement(kind);
     ASSERT_EQ(object->getKind(), kind);
     EXPECT_EQ(object->id.view(), "id");
     EXPECT_EQ(object->elementName.view(), "name");

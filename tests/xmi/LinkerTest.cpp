@@ -1,5 +1,6 @@
 // Resolving references: both ends, both orders, and what is dropped in silence.
 #include "tests/support/FailingAllocation.h"
+#include "tests/support/MadeElement.h"
 #include "tests/xmi/Reading.h"
 #include "xmi/ReadObserver.h"
 
@@ -40,6 +41,76 @@ TEST(Linker, TheLastLinkOfASingleEndWins) {
       inModel("<x xmi:type='uml:Class' xmi:id='a'/><x xmi:type='uml:Class' xmi:id='b'/>"
               "<x xmi:type='uml:Property' xmi:id='p' type='a'><type xmi:idref='b'/></x>"));
   EXPECT_EQ(reading.get<UMLProperty>("p").type, reading.find("b"));
+}
+
+// A link is made at once when both objects are known, but never before one of its kind that waits.
+TEST(Linker, AReferenceToALaterObjectKeepsItsPlace) {
+  const Reading reading(
+      inModel("<x xmi:type='uml:Class' xmi:id='a'/>"
+              "<x xmi:type='uml:Dependency' xmi:id='d' supplier='late'><supplier xmi:idref='a'/></x>"
+              "<x xmi:type='uml:Property' xmi:id='p' type='late'><type xmi:idref='a'/></x>"
+              "<x xmi:type='uml:Property' xmi:id='q' type='nowhere'><type xmi:idref='a'/></x>"
+              "<x xmi:type='uml:Class' xmi:id='late'/>"));
+  EXPECT_EQ(idsOf(reading.get<UMLDependency>("d").supplier), "late a");
+  EXPECT_EQ(reading.get<UMLProperty>("p").type, reading.find("a"));
+  EXPECT_EQ(reading.get<UMLProperty>("q").type, reading.find("a"));
+}
+
+// With an observer all links are made at the end. Whichever way, every field has the same content.
+TEST(Linker, LinksMadeAtOnceAndAtTheEndGiveTheSame) {
+  struct Unmoved : ReadObserver {
+    void skippedType(const KYRString&, const KYRString&) override {}
+    void unknownTag(const KYRString&, const KYRString&) override {}
+    void link(const KYRString&, const KYRString&, int, LinkResult) override {}
+  } observer;
+  unsigned int state = 1;
+  const auto random = [&state](unsigned int below) {
+    state = state * 1664525U + 1013904223U;  // the usual generator of 32 bits
+    return (state >> 16) % below;
+  };
+  constexpr unsigned int count = 120;
+  const char* const types[] = {"Class", "Property", "Dependency", "Association", "Package", "Operation"};
+  const char* const roles[] = {"type",     "supplier",       "client",         "memberEnd",   "general",
+                               "ownedEnd", "ownedAttribute", "ownedOperation", "ownedMember", "member"};
+  std::string content;
+  for (unsigned int i = 0; i < count; ++i) {
+    const std::string id = std::to_string(random(count));  // some twice, some never
+    content += "<x xmi:type='uml:" + std::string(types[random(6)]) + "' xmi:id='" + id + "'";
+    content += " " + std::string(roles[random(5)]) + "='" + std::to_string(random(count)) + "'>";
+    for (unsigned int child = random(6); child > 0; --child) {
+      content +=
+          "<" + std::string(roles[random(10)]) + " xmi:idref='" + std::to_string(random(count)) + "'/>";
+    }
+    content += "</x>";
+  }
+  const Reading atOnce(inModel(content));
+  const TemporaryFile file(inModel(content));
+  RecordingLog log;
+  XMIParser atEnd(&log);
+  atEnd.setObserver(&observer);
+  DispatchRows::resetForTests();
+  atEnd.parse(file.file());
+  const auto contentOf = [](UMLElement& element) {
+    std::string text;
+    for (const UMLMetamodel::LinkRow& row : UMLMetamodel::linkRows) {
+      for (const UMLMetamodel::LinkEnd* end : {&row.first, &row.second}) {
+        const void* const part = end->role == nullptr ? nullptr : umlCastTo(&element, end->owner);
+        if (part == nullptr) continue;
+        for (unsigned int i = 0; i < end->count(part); ++i) {
+          text += std::string(end->role) + " " + std::to_string(end->at(part, i)->readingNumber) + ", ";
+        }
+      }
+    }
+    return text;
+  };
+  const UMLObjectTable& objects = atOnce.parser.getObjects();
+  ASSERT_EQ(objects.getSlotCount(), atEnd.getObjects().getSlotCount());
+  std::size_t length = 0;
+  for (unsigned int i = 0; i < objects.getSlotCount(); ++i) {
+    EXPECT_EQ(contentOf(*objects.at(i)), contentOf(*atEnd.getObjects().at(i))) << i;
+    length += contentOf(*objects.at(i)).size();
+  }
+  EXPECT_GT(length, 2000U);
 }
 
 TEST(Linker, AGeneralizationGetsBothItsEnds) {
@@ -104,10 +175,6 @@ TEST(Linker, KindsOutOfRangeDoNothing) {
 TEST(Linker, EveryKindFillsItsEndsInBothOrders) {
   RecordingLog log;
   XMIParser parser(&log);
-  const auto make = [](int kind) {
-    return std::unique_ptr<UMLElement>(
-        UMLMetamodel::classRows[static_cast<std::size_t>(kind)].make("id", "name"));
-  };
   int kind = 0;
   int sameClass = 0;
   for (const UMLMetamodel::LinkRow& row : UMLMetamodel::linkRows) {
@@ -120,8 +187,8 @@ TEST(Linker, EveryKindFillsItsEndsInBothOrders) {
                               UMLLineage::isKindOf(row.second.owner, row.first.owner);
     if (fitsBothWays) ++sameClass;
     for (const bool swapped : {false, true}) {
-      const auto first = make(row.first.owner);
-      const auto second = make(row.second.owner);
+      const auto first = madeElement(row.first.owner);
+      const auto second = madeElement(row.second.owner);
       EXPECT_TRUE(swapped ? parser.linkRelationship(second.get(), first.get(), kind)
                           : parser.linkRelationship(first.get(), second.get(), kind));
       UMLElement* const inFirst = swapped && fitsBothWays ? second.get() : first.get();

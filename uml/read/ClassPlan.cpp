@@ -38,6 +38,7 @@ std::vector<ClassPlan> ClassPlan::makeAll() {
     plan.addScalars();
     plan.addReferences();
     plan.addNestedRows();
+    plan.addMeanings();
     plans.push_back(std::move(plan));
   }
   return plans;
@@ -70,7 +71,7 @@ void ClassPlan::addScalars() {
 void ClassPlan::addReferences() {
   for (const int owner : lineage) {
     forEachEnd([this, owner](const UMLMetamodel::LinkEnd& end, int linkKind) {
-      if (end.owner == owner) references.push_back({ReaderNames::get().find(end.role), linkKind});
+      if (end.owner == owner) references.push_back({ReaderNames::get().find(end.role), linkKind, none});
     });
   }
 }
@@ -91,5 +92,20 @@ void ClassPlan::addNestedRows() {
       taken.push_back({target, linkKind});
       nestedRows.push_back({ReaderNames::get().find(end.role), end.owner, linkKind});
     });
+  }
+}
+
+// From the last reference to the first, so that each name's chain begins with its first one.
+void ClassPlan::addMeanings() {
+  meanings.resize(static_cast<std::size_t>(ReaderNames::get().getCount()));
+  const auto meaningOf = [this](int name) -> Meaning& { return meanings[static_cast<std::size_t>(name)]; };
+  for (std::size_t at = 0; at < scalars.size(); ++at) {
+    meaningOf(scalars[at].attribute).scalar = static_cast<std::int16_t>(at);
+  }
+  for (std::size_t at = references.size(); at > 0; --at) {
+    Reference& reference = references[at - 1];
+    Meaning& meaning = meaningOf(reference.attribute);
+    reference.nextOfName = meaning.firstReference;
+    meaning.firstReference = static_cast<std::int16_t>(at - 1);
   }
 }

@@ -4,6 +4,7 @@
 // the class, then its direct bases in declared order, depth first, each class once.
 #pragma once
 
+#include <cstdint>
 #include <vector>
 
 namespace UMLMetamodel {
@@ -22,6 +23,13 @@ class ClassPlan {
   struct Reference {
     int attribute;
     int linkKind;
+    int nextOfName = none;  // position of the next one of the same name
+  };
+  static constexpr int none = -1;
+  /// What an attribute name means to the class: positions in `scalars` and `references`, or `none`.
+  struct Meaning {
+    std::int16_t scalar = none;
+    std::int16_t firstReference = none;
   };
   /// Ties a new object to the parent under whose tag it stands. A class's own row of a link kind
   /// replaces an inherited one of the same kind.
@@ -38,6 +46,7 @@ class ClassPlan {
   std::vector<Scalar> scalars;
   std::vector<Reference> references;
   std::vector<NestedRow> nestedRows;
+  std::vector<Meaning> meanings;  // by number in ReaderNames
 
  private:
   ClassPlan() = default;
@@ -46,4 +55,5 @@ class ClassPlan {
   void addScalars();
   void addReferences();
   void addNestedRows();
+  void addMeanings();
 };

@@ -1,5 +1,7 @@
 // The readers: one body serves all 117 classes, driven by their plans. The three that differ, those
 // of the model and of two literals, stand beside it.
+#include <algorithm>
+
 #include "bridge/messages/KBI_UML2XMI.h"
 #include "uml/UMLCast.h"
 #include "uml/UMLClasses.h"
@@ -58,7 +60,8 @@ void XMIParser::readModel(const TagHandler& row, const KYRString& tag, const KYR
   detectVersions();
   const KYRString& xmiId = attribute(names.id);
   const KYRString& id = xmiId.isEmpty() ? name : xmiId;
-  std::unique_ptr<UMLElement> object = makeObject(*row.plan, id, name);
+  announceReferences(*row.plan);
+  MadeObject object = makeObject(*row.plan, id, name);
   patchRow();
   // A second model element takes the place of the first as the result.
   model = umlCast<UMLModel>(object.get());
@@ -90,21 +93,24 @@ void XMIParser::storeText(const TagHandler& row, const KYRString&) {
 void XMIParser::readPlan(const ClassPlan& plan, const KYRString& tag) {
   const ReaderNames& names = ReaderNames::get();
   const KYRString& id = attribute(names.id);
-  std::unique_ptr<UMLElement> object = makeObject(plan, id, attribute(names.name));
+  const std::uint32_t hash = ids.announce(id);
+  announceReferences(plan);
+  MadeObject object = makeObject(plan, id, attribute(names.name));
   patchRow();
-  completeObject(plan, tag, std::move(object), ids.intern(id));
+  for (const Reference& reference : references) ids.approach(reference.hash);
+  completeObject(plan, tag, std::move(object), ids.intern(id, hash));
 }
 
-std::unique_ptr<UMLElement> XMIParser::makeObject(const ClassPlan& plan, const KYRString& id,
-                                                  const KYRString& name) {
+XMIParser::MadeObject XMIParser::makeObject(const ClassPlan& plan, const KYRString& id,
+                                            const KYRString& name) {
   const UMLMetamodel::ClassRow& row = UMLMetamodel::classRows[static_cast<unsigned int>(plan.kind)];
-  return std::unique_ptr<UMLElement>(row.make(keep(id), keep(name)));
+  return MadeObject(row.makeAt(objectMemory.allocate(row.size), keep(id), keep(name)));
 }
 
-void XMIParser::completeObject(const ClassPlan& plan, const KYRString& tag,
-                               std::unique_ptr<UMLElement> object, IdTable::Number id) {
+void XMIParser::completeObject(const ClassPlan& plan, const KYRString& tag, MadeObject object,
+                               IdTable::Number id) {
+  for (const Reference& reference : references) ids.approachText(reference.hash);
   readScalars(plan, *object);
-  noteReferences(plan, id);
   UMLElement* const element = object.get();
   element->readingNumber = objects.getCount();
   objects.add(element, false, nullptr);
@@ -112,22 +118,44 @@ void XMIParser::completeObject(const ClassPlan& plan, const KYRString& tag,
   if (observer != nullptr) observer->element(*element, parser->getLine());
   ids.enter(id, element);
   pushElement(element, id);
+  noteReferences(id);
   tieToParent(plan, tag, id);
 }
 
 // A missing attribute leaves the field as constructed, which is what its empty text would give.
 void XMIParser::readScalars(const ClassPlan& plan, UMLElement& element) {
-  for (const ClassPlan::Scalar& scalar : plan.scalars) {
-    const KYRString& value = attribute(scalar.attribute);
-    if (!value.isEmpty()) scalar.row->set(umlCastTo(&element, scalar.row->owner), value, kinds);
+  for (const int name : scan.getFoundNames()) {
+    const int position = plan.meanings[static_cast<std::size_t>(name)].scalar;
+    if (position == ClassPlan::none) continue;
+    const UMLMetamodel::ScalarRow& row = *plan.scalars[static_cast<std::size_t>(position)].row;
+    const KYRString& value = attribute(name);
+    if (!value.isEmpty()) row.set(umlCastTo(&element, row.owner), value, kinds);
   }
 }
 
-// The value is taken whole: one that lists several ids is a key that no object has.
-void XMIParser::noteReferences(const ClassPlan& plan, IdTable::Number id) {
-  for (const ClassPlan::Reference& reference : plan.references) {
-    const KYRString& value = attribute(reference.attribute);
-    if (!value.isEmpty()) noteLink(ids.intern(value), id, reference.linkKind);
+// The value is taken whole: one that lists several ids is a key that no object has. References are noted
+// in the order of the plan, whatever the order of the attributes.
+void XMIParser::announceReferences(const ClassPlan& plan) {
+  references.clear();
+  for (const int name : scan.getFoundNames()) {
+    int position = plan.meanings[static_cast<std::size_t>(name)].firstReference;
+    if (position == ClassPlan::none || attribute(name).isEmpty()) continue;
+    const KYRString& value = attribute(name);
+    const std::uint32_t hash = ids.announce(value);
+    while (position != ClassPlan::none) {
+      const ClassPlan::Reference& reference = plan.references[static_cast<std::size_t>(position)];
+      references.push_back({&value, hash, position, reference.linkKind});
+      position = reference.nextOfName;
+    }
+  }
+  if (references.size() < 2) return;
+  std::sort(references.begin(), references.end(),
+            [](const Reference& one, const Reference& other) { return one.position < other.position; });
+}
+
+void XMIParser::noteReferences(IdTable::Number id) {
+  for (const Reference& reference : references) {
+    noteLink(ids.intern(*reference.id, reference.hash), id, reference.linkKind);
   }
 }
 
@@ -146,6 +174,19 @@ void XMIParser::tieToParent(const ClassPlan& plan, const KYRString& tag, IdTable
   }
 }
 
+// Both ends of a link are filled in at once when their objects are known, while they are at hand. A link
+// that has to wait keeps those of its kind to either of its ids waiting behind it: each field is filled by
+// links of one kind, so every list gets its entries in the order in which they were noted.
 void XMIParser::noteLink(IdTable::Number first, IdTable::Number second, int kind) {
+  if (observer == nullptr && !ids.isWaiting(first, kind) && !ids.isWaiting(second, kind)) {
+    UMLElement* const firstObject = ids.find(first);
+    UMLElement* const secondObject = ids.find(second);
+    if (firstObject != nullptr && secondObject != nullptr) {
+      linkRelationship(firstObject, secondObject, kind);
+      return;
+    }
+  }
+  ids.wait(first, kind);
+  ids.wait(second, kind);
   pendingLinks.push_back({first, second, kind});
 }

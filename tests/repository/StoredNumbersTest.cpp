@@ -1,0 +1,64 @@
+// StoredNumbers: the ids of a saved model, and what has none.
+#include "repository/storage/StoredNumbers.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "repository/model/KYRDesignPackage.h"
+
+namespace {
+
+class StoredNumbersTest : public testing::Test {
+ protected:
+  StoredNumbersTest() {
+    for (KYRDesignPackage*& package : packages_) {
+      package = new KYRDesignPackage();  // the model owns it
+      model_.addDesignPackage(package);
+    }
+  }
+
+  KYRStoreModel model_;
+  KYRDesignPackage* packages_[3] = {};
+};
+
+TEST_F(StoredNumbersTest, NumbersFollowTheDocument) {
+  for (const auto listing : {StoredNumbers::Listing::none, StoredNumbers::Listing::all}) {
+    const StoredNumbers numbers(model_, listing);
+    EXPECT_EQ(numbers.getCount(), 4U);
+    EXPECT_EQ(numbers.get(&model_), 1U);
+    for (unsigned int i = 0; i < 3; ++i) EXPECT_EQ(numbers.get(packages_[i]), i + 2);
+  }
+}
+
+TEST_F(StoredNumbersTest, ListedObjectsAreFoundByTheirNumber) {
+  const StoredNumbers numbers(model_, StoredNumbers::Listing::all);
+  EXPECT_EQ(numbers.at(1), &model_);
+  EXPECT_EQ(numbers.at(4), packages_[2]);
+}
+
+TEST_F(StoredNumbersTest, WhatTheModelDoesNotHoldHasNone) {
+  KYRStoreModel other;
+  auto* const foreign = new KYRDesignPackage();
+  other.addDesignPackage(foreign);
+  const KYRDesignPackage alone;
+  for (const auto listing : {StoredNumbers::Listing::none, StoredNumbers::Listing::all}) {
+    const StoredNumbers foreignNumbers(other, listing);
+    const StoredNumbers numbers(model_, listing);
+    EXPECT_EQ(numbers.get(nullptr), 0U);
+    EXPECT_EQ(numbers.get(&alone), 0U);
+    EXPECT_EQ(numbers.get(foreign), 0U);
+    EXPECT_EQ(foreignNumbers.get(foreign), 2U);
+    EXPECT_EQ(foreignNumbers.get(packages_[0]), 0U);
+  }
+}
+
+// As in a comparison of a model with itself.
+TEST_F(StoredNumbersTest, TwoListingsOfAModelStandSideBySide) {
+  const StoredNumbers first(model_, StoredNumbers::Listing::all);
+  const StoredNumbers second(model_, StoredNumbers::Listing::all);
+  EXPECT_EQ(first.get(packages_[1]), 3U);
+  EXPECT_EQ(second.get(packages_[1]), 3U);
+}
+
+}  // namespace
