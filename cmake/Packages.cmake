@@ -28,6 +28,8 @@ set(CPACK_DEBIAN_PLUGIN_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_COMMAND_PACKAGE_SECTION devel)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SHLIBDEPS OFF)
+# Lays out pictures of `kyr report`, which does without.
+set(CPACK_DEBIAN_COMMAND_PACKAGE_SUGGESTS graphviz)
 
 set(CPACK_COMPONENT_LIBRARY_DESCRIPTION
   "The store model, and what hosts and plug-ins share.")

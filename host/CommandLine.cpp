@@ -81,13 +81,14 @@ int performSafely(const CommandRequest& request, Tools& tools) {
 }
 
 // Where the output is the result, a command that cannot write it has failed. The result of an import
-// is its file.
+// is its file, unless that is the output.
 int finish(const CommandRequest& request, Tools& tools, int code) {
   tools.output.flush();
   const int error = tools.output.getError();
   if (error != 0) {
     tools.log.fail(KYRHostMessages::CANNOT_WRITE_OUTPUT.getMessage(KYRString(std::strerror(error))));
-    if (request.kind != Kind::import) code = failureCode(request);
+    if (request.kind != Kind::import || ImportCommand::isToOutput(request.import))
+      code = failureCode(request);
   }
   tools.log.finish();
   return code;

@@ -56,6 +56,7 @@ class Definition {
   void defineDiagram();
   void defineDiff();
   void defineReport();
+  void defineLayout(CLI::App& command);
   void defineNormalize();
   static void addNormalize(CLI::App& command, NormalizeChoice& choice);
   static CLI::Option& addPlugin(CLI::App& command, std::string& path);
@@ -182,6 +183,19 @@ void Definition::defineReport() {
   command.add_option("--messages", request_.report.log, textOf(REPORT_HELP_MESSAGES))
       ->type_name("PATH")
       ->check(CLI::Validator(checkName, ""));
+  defineLayout(command);
+}
+
+void Definition::defineLayout(CLI::App& command) {
+  using Layout = ReportCommand::Layout;
+  const auto set = [this](const std::string& name) {
+    request_.report.layout = name == "graphviz" ? Layout::graphviz
+                             : name == "simple" ? Layout::simple
+                                                : Layout::automatic;
+  };
+  command.add_option_function<std::string>("--layout", set, textOf(KYRHostTexts::REPORT_HELP_LAYOUT))
+      ->type_name("LAYOUT")
+      ->check(CLI::IsMember({"auto", "graphviz", "simple"}).description(""));
 }
 
 void Definition::defineDiff() {

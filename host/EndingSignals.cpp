@@ -1,16 +1,18 @@
-// The handler does what POSIX allows in one: it removes files and sends a signal.
+// The handler does what POSIX allows in one: it removes files and sends signals.
 #include "host/EndingSignals.h"
 
 #include <unistd.h>
 
 #include "host/ExitCode.h"
 #include "host/ProgressLine.h"
+#include "report/GraphvizProcess.h"
 #include "repository/storage/UnfinishedFiles.h"
 
 namespace {
 
 void removeAndEnd(int signal) {
   UnfinishedFiles::removeAll();
+  GraphvizProcess::endAtSignal();
   ProgressLine::wipeAtSignal();
   EndingSignals::endBy(signal);
 }

@@ -1,6 +1,8 @@
 // One import by the plug-in, and what is said of it.
 #include "host/ImportCommand.h"
 
+#include <unistd.h>
+
 #include <chrono>
 #include <cstdio>
 #include <memory>
@@ -70,7 +72,7 @@ int ImportCommand::run() {
   KYROptionList options;
   fillOptions(options);
   const PhaseReport phases(settings_.withTiming);
-  const ModelSaver saver(formatOf(settings_), settings_.isAppending);
+  const ModelSaver saver = makeSaver();
   TraceFile trace(settings_.traceFile);
   ProgressWatch progress(!settings_.isQuiet && settings_.format == HostLog::Format::text);
   // A database needs memory while it is made, and is given that of the objects that were read.
@@ -78,8 +80,20 @@ int ImportCommand::run() {
   importFile(options);
   trace.commit(normalizer_ ? &normalizer_->getReport() : nullptr);
   result_ = {std::chrono::duration<double>(Clock::now() - start).count(), saver.getCounts()};
-  if (!settings_.isQuiet) writeSummary(phases, trace, progress);
+  if (!settings_.isQuiet) summarize(phases, trace, progress);
   return ExitCode::done;
+}
+
+ModelSaver ImportCommand::makeSaver() {
+  if (isToOutput(settings_)) return {formatOf(settings_), output_};
+  return {formatOf(settings_), settings_.isAppending};
+}
+
+void ImportCommand::summarize(const PhaseReport& phases, const TraceFile& trace, ProgressWatch& progress) {
+  if (!isToOutput(settings_)) return writeSummary(phases, trace, progress, output_);
+  Output terminal(STDERR_FILENO);
+  writeSummary(phases, trace, progress, terminal);
+  terminal.flush();
 }
 
 void ImportCommand::importFile(KYROptionList& options) {
@@ -100,6 +114,10 @@ void ImportCommand::importFile(KYROptionList& options) {
 }
 
 bool ImportCommand::isWrongUsage() {
+  if (isToOutput(settings_) && formatOf(settings_) == StoreModelFormat::sqlite) {
+    log_.fail(KYRHostMessages::DATABASE_TO_OUTPUT.getMessage());
+    return true;
+  }
   if (settings_.isAppending && formatOf(settings_) != StoreModelFormat::sqlite) {
     log_.fail(KYRHostMessages::APPEND_NEEDS_SQLITE.getMessage());
     return true;
@@ -108,7 +126,7 @@ bool ImportCommand::isWrongUsage() {
 }
 
 bool ImportCommand::filesClash() {
-  if (FileNames::isSame(settings_.file, target_)) {
+  if (isTarget(settings_.file)) {
     log_.fail(KYRHostMessages::OUTPUT_IS_INPUT.getMessage(KYRString(target_)));
     return true;
   }
@@ -121,7 +139,7 @@ bool ImportCommand::filesClash() {
     log_.fail(KYRHostMessages::LOG_FILE_IS_INPUT.getMessage(KYRString(settings_.logFile)));
     return true;
   }
-  if (FileNames::isSame(settings_.logFile, target_)) {
+  if (isTarget(settings_.logFile)) {
     log_.fail(KYRHostMessages::LOG_FILE_IS_OUTPUT.getMessage(KYRString(settings_.logFile)));
     return true;
   }
@@ -130,10 +148,14 @@ bool ImportCommand::filesClash() {
 
 bool ImportCommand::traceClashes() const {
   if (settings_.traceFile.empty()) return false;
-  for (const std::string& other : {settings_.file, target_, settings_.logFile}) {
+  for (const std::string& other : {settings_.file, settings_.logFile}) {
     if (!other.empty() && FileNames::isSame(settings_.traceFile, other)) return true;
   }
-  return false;
+  return isTarget(settings_.traceFile);
+}
+
+bool ImportCommand::isTarget(const std::string& file) const {
+  return !isToOutput(settings_) && FileNames::isSame(file, target_);
 }
 
 void ImportCommand::fillOptions(KYROptionList& options) {
@@ -168,7 +190,8 @@ void ImportCommand::resultToJson(JsonOut& json, const std::string& target, const
   if (result.counts.has_value()) countsToJson(json, *result.counts);
 }
 
-void ImportCommand::writeSummary(const PhaseReport& phases, const TraceFile& trace, ProgressWatch& progress) {
+void ImportCommand::writeSummary(const PhaseReport& phases, const TraceFile& trace, ProgressWatch& progress,
+                                 Output& output) {
   std::optional<LossSurvey::Loss> loss;
   if (result_.counts.has_value() && survey_) {
     progress.tell(KYRHostTexts::PROGRESS_SURVEY);
@@ -184,10 +207,10 @@ void ImportCommand::writeSummary(const PhaseReport& phases, const TraceFile& tra
     trace.write(json);
     phases.write(json);
     json.endObject();
-    output_.write(json.endLine());
+    output.write(json.endLine());
     return;
   }
-  TextOut out(output_);
+  TextOut out(output);
   out.line(KYRHostTexts::SUMMARY, target_, inSeconds(result_.seconds));
   if (result_.counts.has_value()) {
     const SavedModelCounts& counts = *result_.counts;

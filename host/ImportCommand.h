@@ -44,6 +44,10 @@ class ImportCommand {
     std::optional<SavedModelCounts> counts;
   };
 
+  /// The name that stands for the standard output.
+  static constexpr const char* standardOutput = "-";
+  /// Whether the model is written to the standard output, which says nothing else then.
+  static bool isToOutput(const Settings& settings) { return settings.output == standardOutput; }
   /// Names the host as the origin of a model.
   static constexpr const char* originId = "kyr";
   /// The option of the plug-in that names the file to import.
@@ -69,9 +73,13 @@ class ImportCommand {
   bool isWrongUsage();
   bool filesClash();
   bool traceClashes() const;
+  bool isTarget(const std::string& file) const;
   void fillOptions(KYROptionList& options);
+  ModelSaver makeSaver();
   void importFile(KYROptionList& options);
-  void writeSummary(const PhaseReport& phases, const TraceFile& trace, ProgressWatch& progress);
+  void summarize(const PhaseReport& phases, const TraceFile& trace, ProgressWatch& progress);
+  void writeSummary(const PhaseReport& phases, const TraceFile& trace, ProgressWatch& progress,
+                    Output& output);
 
   Settings settings_;
   PluginLibrary& library_;

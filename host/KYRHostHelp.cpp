@@ -53,6 +53,7 @@ const HostText<0> IMPORT_HELP_EXAMPLES("IMPORT_HELP_EXAMPLES",
                                        "  kyr import shop.xmi -o models/          writes models/shop.json\n"
                                        "  kyr import shop.xmi -o shop.sqlite      writes a database\n"
                                        "  kyr import *.xmi -o models/             imports many files\n"
+                                       "  kyr import shop.xmi --format sql -o - | psql -d shop\n"
                                        "  kyr import shop.xmi --quiet --log-file shop.log --log-format json");
 const HostText<0> IMPORT_HELP_FILE(
     "IMPORT_HELP_FILE", "The model file: .xmi, .xml, .uml or any other name. There can be several");
@@ -61,8 +62,8 @@ const HostText<0> IMPORT_HELP_JOBS("IMPORT_HELP_JOBS",
                                    "it: as many as there are processors");
 const HostText<0> IMPORT_HELP_OUTPUT(
     "IMPORT_HELP_OUTPUT",
-    "The file to write, or a folder to write it in; a folder for several files. Without it: the name of the "
-    "model file with the extension .json, in the current folder");
+    "The file to write, or a folder to write it in; a folder for several files. - is the standard output. "
+    "Without it: the name of the model file with the extension .json, in the current folder");
 const HostText<0> IMPORT_HELP_FORMAT("IMPORT_HELP_FORMAT",
                                      "json; sqlite: a database to query; sql: statements that PostgreSQL "
                                      "loads. Without it the extension of the "
@@ -169,6 +170,12 @@ const HostText<0> REPORT_HELP_OUTPUT(
 const HostText<0> REPORT_HELP_MESSAGES(
     "REPORT_HELP_MESSAGES",
     "Show what the import said, which is in this file: the one of 'kyr import --log-file'");
+
+const HostText<0> REPORT_HELP_LAYOUT(
+    "REPORT_HELP_LAYOUT",
+    "Who places the boxes of the picture around a class. graphviz: the program 'dot' of Graphviz, with a "
+    "warning where it is missing; simple: the page itself; auto: 'dot' where it is installed. Without it: "
+    "auto");
 
 const HostText<0> NORMALIZE_HELP(
     "NORMALIZE_HELP",

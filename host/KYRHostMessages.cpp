@@ -61,10 +61,15 @@ const HostMessage<1> KYRHostMessages::MODEL_NOT_IMPORTED(
     52, fatal, "'{0}' is XML and no saved model; 'kyr import' makes one of a model file");
 const HostMessage<1> KYRHostMessages::MODEL_IS_DATABASE(
     53, fatal, "'{0}' is a database; what is wanted is the JSON file that 'kyr import -o NAME.json' writes");
+const HostMessage<1> KYRHostMessages::PICTURES_NOT_LAID_OUT(
+    54, warning, "Graphviz does not lay out the pictures around the classes, so the page does: {0}");
 const HostMessage<2> KYRHostMessages::NO_FOLDER(
     30, fatal, "The model cannot be written to '{0}': there is no folder '{1}'");
 const HostMessage<0> KYRHostMessages::APPEND_NEEDS_SQLITE(
     31, fatal, "'--append' adds to a file of the format sqlite; '--format' names another one");
+
+const HostMessage<0> KYRHostMessages::DATABASE_TO_OUTPUT(
+    38, fatal, "A database cannot be written to the standard output; '-o' names a file for it");
 
 const HostMessage<1> KYRHostMessages::OUTPUT_NOT_A_FOLDER(
     32, fatal, "For several files '-o' names a folder that is there; '{0}' is none");

@@ -36,9 +36,11 @@ class KYRHostMessages final : public KYRTextLiteralsCollection {
   // The page of a model.
   static const HostMessage<1> PAGE_IS_MODEL;
   static const HostMessage<1> PAGE_IS_LOG;
+  static const HostMessage<1> PICTURES_NOT_LAID_OUT;
   // The output of an import.
   static const HostMessage<2> NO_FOLDER;
   static const HostMessage<0> APPEND_NEEDS_SQLITE;
+  static const HostMessage<0> DATABASE_TO_OUTPUT;
   // The normalising step.
   static const HostMessage<0> TOOL_NAME_FOUND;
   static const HostMessage<1> ATTRIBUTE_RINGS;

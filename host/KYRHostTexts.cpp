@@ -5,6 +5,12 @@ namespace KYRHostTexts {
 
 const HostText<1> VERSION("VERSION", "kyr {0}");
 
+const HostText<0> GRAPHVIZ_MISSING("GRAPHVIZ_MISSING", "there is no program 'dot' on the PATH");
+const HostText<0> GRAPHVIZ_NOT_STARTED("GRAPHVIZ_NOT_STARTED", "no process can be started for 'dot'");
+const HostText<0> GRAPHVIZ_LATE("GRAPHVIZ_LATE", "'dot' does not answer in time");
+const HostText<0> GRAPHVIZ_ENDED("GRAPHVIZ_ENDED", "'dot' has ended before it has answered");
+const HostText<0> GRAPHVIZ_NOT_UNDERSTOOD("GRAPHVIZ_NOT_UNDERSTOOD", "'dot' answers what was not asked");
+
 const HostText<1> NOT_A_TIME("NOT_A_TIME", "'{0}' is no time as of ISO 8601, such as 2026-01-01T00:00:00Z");
 const HostText<2> NO_SUCH_STORE("NO_SUCH_STORE", "'{0}' is no data store; there are {1}");
 

@@ -60,6 +60,7 @@ extern const HostText<0> REPORT_HELP_EXAMPLES;
 extern const HostText<0> REPORT_HELP_FILE;
 extern const HostText<0> REPORT_HELP_OUTPUT;
 extern const HostText<0> REPORT_HELP_MESSAGES;
+extern const HostText<0> REPORT_HELP_LAYOUT;
 
 extern const HostText<0> NORMALIZE_HELP;
 extern const HostText<0> NORMALIZE_HELP_EXAMPLES;
@@ -76,6 +77,13 @@ extern const HostText<0> DIFF_HELP_JSON;
 
 /// The version of the command itself.
 extern const HostText<1> VERSION;
+
+// Why pictures are not laid out by Graphviz.
+extern const HostText<0> GRAPHVIZ_MISSING;
+extern const HostText<0> GRAPHVIZ_NOT_STARTED;
+extern const HostText<0> GRAPHVIZ_LATE;
+extern const HostText<0> GRAPHVIZ_ENDED;
+extern const HostText<0> GRAPHVIZ_NOT_UNDERSTOOD;
 
 // Why something is wrong usage.
 extern const HostText<1> NOT_A_TIME;

@@ -6,6 +6,7 @@
 
 #include <optional>
 
+#include "host/Output.h"
 #include "host/SavedModelCounts.h"
 #include "repository/storage/StoreModelFile.h"
 #include "repository/storage/StoreModelSaver.h"
@@ -15,6 +16,8 @@ class ModelSaver final : public StoreModelSaver {
   /// Saves the models of this process as long as it lives: each in a file of its own, or each added to
   /// what the SQLite file holds.
   ModelSaver(StoreModelFormat format, bool isAppending);
+  /// Writes them to the output, whatever file they are for. The format is a text.
+  ModelSaver(StoreModelFormat format, Output& output);
   ~ModelSaver() override;
 
   void save(const KYRFile& file, const KYRStoreModel& model) override;
@@ -23,6 +26,7 @@ class ModelSaver final : public StoreModelSaver {
 
  private:
   StoreModelFormat format_;
-  bool isAppending_;
+  bool isAppending_ = false;
+  Output* output_ = nullptr;
   std::optional<SavedModelCounts> counts_;
 };

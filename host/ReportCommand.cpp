@@ -9,6 +9,8 @@
 #include "host/LogLines.h"
 #include "host/SavedModel.h"
 #include "host/TextOut.h"
+#include "report/GraphvizProcess.h"
+#include "report/NeighbourhoodPictures.h"
 #include "report/ReportWriter.h"
 #include "repository/storage/ReplacedFile.h"
 
@@ -24,11 +26,44 @@ int ReportCommand::run() {
   }
   const std::string messages = messagesToJson();
   const std::unique_ptr<KYRStoreModel> model = SavedModel::load(settings_.file);
+  const std::string pictures = picturesToJson(*model);
   ReplacedFile file(KYRFile(KYRString(target)), ReplacedFile::Wait::untilNamed);
-  writeReport(*model, messages, file);
+  writeReport(*model, {messages, pictures}, file);
   file.commit();
   TextOut(output_).line(KYRHostTexts::REPORT_WRITTEN, target);
   return ExitCode::done;
+}
+
+std::string ReportCommand::picturesToJson(const KYRStoreModel& model) const {
+  using Outcome = NeighbourhoodPictures::Outcome;
+  if (settings_.layout == Layout::simple) return std::string();
+  const std::string program = GraphvizProcess::findProgram();
+  if (program.empty()) {
+    if (settings_.layout == Layout::graphviz) warn(KYRHostTexts::GRAPHVIZ_MISSING);
+    return std::string();
+  }
+  NeighbourhoodPictures pictures;
+  switch (pictures.layOut(model, program)) {
+    case Outcome::done:
+      break;
+    case Outcome::notStarted:
+      warn(KYRHostTexts::GRAPHVIZ_NOT_STARTED);
+      break;
+    case Outcome::late:
+      warn(KYRHostTexts::GRAPHVIZ_LATE);
+      break;
+    case Outcome::ended:
+      warn(KYRHostTexts::GRAPHVIZ_ENDED);
+      break;
+    case Outcome::notUnderstood:
+      warn(KYRHostTexts::GRAPHVIZ_NOT_UNDERSTOOD);
+      break;
+  }
+  return pictures.getJson();
+}
+
+void ReportCommand::warn(const HostText<0>& reason) const {
+  KYRHostMessages::PICTURES_NOT_LAID_OUT.log(log_, reason.toString());
 }
 
 // Each as a list of its level, code and text.

@@ -36,21 +36,24 @@ void writeDiagrams(const KYRStoreModel& model, BlockSink& sink) {
   }
 }
 
-void writeMessages(std::string_view messages, BlockSink& sink) {
-  if (messages.empty()) return;
-  sink.write("<script type=\"application/json\" id=\"messages\">");
-  ScriptText(sink).write(messages);
+void writeAddition(std::string_view id, std::string_view json, BlockSink& sink) {
+  if (json.empty()) return;
+  sink.write("<script type=\"application/json\" id=\"");
+  sink.write(id);
+  sink.write("\">");
+  ScriptText(sink).write(json);
   sink.write("</script>\n");
 }
 
 }  // namespace
 
-void writeReport(const KYRStoreModel& model, std::string_view messages, BlockSink& sink) {
+void writeReport(const KYRStoreModel& model, const ReportAdditions& additions, BlockSink& sink) {
   sink.write(ReportPage::beforeStyle);
   sink.write(ReportPage::style);
   sink.write(ReportPage::beforeModel);
   writeModel(model, sink);
-  writeMessages(messages, sink);
+  writeAddition("messages", additions.messages, sink);
+  writeAddition("pictures", additions.pictures, sink);
   writeDiagrams(model, sink);
   sink.write(ReportPage::beforeScript);
   for (const std::string_view piece : ReportPage::script) sink.write(piece);

@@ -2,10 +2,11 @@
 # Installs the Debian 12 packages that the named groups of work need; without a name, "build" and
 # "test". Only what is missing is installed, so a second run asks no network and takes no time.
 #
-#   scripts/install-deps.sh [build|test|browser|lint|coverage|soak|bench|packages|all]...
+#   scripts/install-deps.sh [build|test|browser|graphviz|postgresql|lint|coverage|soak|bench|packages|all]...
 #
-# "browser" is for the test that opens pages of `kyr report`. It is a large download, so nothing asks for it
-# by itself: without it that test is skipped.
+# "browser" is for the test that opens pages of `kyr report`, "graphviz" for those of pictures that Graphviz lays
+# out, "postgresql" for the one that loads what `kyr import --format sql` writes. They are large downloads, so nothing
+# but continuous integration asks for them by itself: without them those tests are skipped.
 set -euo pipefail
 
 declare -A packages=(
@@ -16,17 +17,19 @@ declare -A packages=(
   [soak]="valgrind"
   [bench]="python3"
   [browser]="chromium nodejs npm"
+  [graphviz]="graphviz"
+  [postgresql]="postgresql"
   [packages]="dpkg-dev fakeroot file python3"
 )
 
 groups=("$@")
 [ ${#groups[@]} -gt 0 ] || groups=(build test)
-[ "${groups[*]}" != all ] || groups=(build test browser lint coverage soak bench packages)
+[ "${groups[*]}" != all ] || groups=(build test browser graphviz postgresql lint coverage soak bench packages)
 
 wanted=()
 for group in "${groups[@]}"; do
   if [ -z "${packages[$group]:-}" ]; then
-    echo "install-deps: there is no group '$group'; the groups are build, test, browser, lint, coverage, soak, bench, packages and all" >&2
+    echo "install-deps: there is no group '$group'; the groups are build, test, browser, graphviz, postgresql, lint, coverage, soak, bench, packages and all" >&2
     exit 2
   fi
   read -ra names <<< "${packages[$group]}"

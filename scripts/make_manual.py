@@ -19,6 +19,7 @@ CHOICES = re.compile(r" not in \{(.*)\}")
 CONDITIONS = re.compile(r" (Excludes|Needs|REQUIRED):?.*$")
 LISTS = ("Arguments", "Options", "Commands")
 PLACES = ("PATH", "FOLDER")
+SETS = ("FORMAT", "LAYOUT")  # what stands for one of a few values, which the command names when it refuses another
 
 
 class Entry:
@@ -207,7 +208,7 @@ def main(kyr, target):
     pages = {entry.names[0]: help_of(kyr, entry.names[0]) for entry in whole.lists["Commands"]}
     for command, page in pages.items():
         for entry in page.options():
-            if entry.value == "FORMAT":
+            if entry.value in SETS:
                 entry.choices = find_choices(kyr, command, entry)
     names = [f"kyr-{command}" for command in pages]
     write(folder / "man1" / "kyr.1", manual("kyr", version, whole, names))

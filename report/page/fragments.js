@@ -8,9 +8,10 @@ const visibilities = ["public", "protected", "private", "package"];
 const visibilitySigns = ["+", "#", "-", "~"];
 
 class Fragments {
-  constructor(model, addresses) {
+  constructor(model, addresses, pictures) {
     this.model = model;
     this.addresses = addresses;
+    this.pictures = pictures;
   }
 
   link(object, text) {

@@ -19,7 +19,7 @@ const fixedMakers = {
 class Report {
   constructor(model) {
     this.addresses = new Addresses(model);
-    this.fragments = new Fragments(model, this.addresses);
+    this.fragments = new Fragments(model, this.addresses, new PlacedPictures(document.getElementById("pictures")));
     this.main = document.getElementById("page");
     this.tree = new Tree(document.getElementById("tree"), this.fragments);
     this.search = new Search(this.fragments, document.getElementById("search"), document.getElementById("results"), document.getElementById("found"));

@@ -1,10 +1,7 @@
 // The picture of a class and what it is tied to: supertypes above, subtypes below, what it is associated
 // with to the right (where it is the first end) and to the left (where it is another). The box of the class is
-// as high as its neighbours beside it need, so every line to them is straight and no two cross.
-
-const around = {
-  boxWidth: 200, boxHeight: 34, ownWidth: 220, rowHeight: 54, gap: 280, level: 64, mostAbove: 5, mostBeside: 8, mostAttributes: 8, lineHeight: 16,
-};
+// as high as its neighbours beside it need, so every line to them is straight and no two cross. Where Graphviz has
+// laid out the picture that one is shown instead.
 
 class Neighbourhood {
   constructor(fragments, class_) {
@@ -15,8 +12,25 @@ class Neighbourhood {
 
   content() {
     this.gather();
-    if (this.above.length + this.below.length + this.left.length + this.right.length === 0) return null;
-    return section("Neighbourhood", 0, make("div", { class: "picture around", tabindex: "0", role: "group", "aria-label": "Neighbourhood, scrollable" }, this.picture()));
+    const count = this.above.length + this.below.length + this.left.length + this.right.length;
+    if (count === 0) return null;
+    const placed = this.fragments.pictures.of(this.class_);
+    const picture = placed === null ? this.draw() : new PlacedPicture(this.fragments, this.class_, placed).draw();
+    // The own picture tells at each side how many there are besides.
+    const leftOut = placed === null ? 0 : count - placed.lines.length;
+    return section("Neighbourhood", 0,
+      make("div", { class: "picture around", tabindex: "0", role: "group", "aria-label": "Neighbourhood, scrollable" }, this.svg(picture)),
+      leftOut > 0 ? make("p", { class: "faint" }, "Not in the picture: " + leftOut + " more, which stand in the lists.") : null);
+  }
+
+  svg({ shapes, left, top, width, height }) {
+    const svg = draw("svg", { viewBox: [left, top, width, height].join(" "), role: "group",
+      "aria-label": "Neighbourhood of " + plain(shorten(nameOf(this.class_), longestName)) }, shapes);
+    // As large as it was laid out, and smaller where there is no room, down to letters that can still be read:
+    // then it can be scrolled.
+    svg.style.maxWidth = width + "px";
+    svg.style.minWidth = width * around.smallest + "px";
+    return svg;
   }
 
   gather() {
@@ -40,15 +54,14 @@ class Neighbourhood {
     this.left.push(...model.other(class_, "clients", "clientClass").map(needed));
   }
 
-  picture() {
+  draw() {
     const beside = Math.max(shownCount(this.left, around.mostBeside), shownCount(this.right, around.mostBeside));
-    const attributes = (this.class_.attributes || []).slice(0, around.mostAttributes);
-    const leftOut = (this.class_.attributes || []).length - attributes.length;
+    const { attributes, leftOut } = shownAttributes(this.class_);
     const textHeight = around.boxHeight + (attributes.length + (leftOut > 0 ? 1 : 0)) * around.lineHeight + (attributes.length > 0 ? 8 : 0);
     this.own = { width: around.ownWidth, height: Math.max(textHeight, beside * around.rowHeight) };
     this.own.x = -this.own.width / 2;
     this.own.y = 0;
-    this.drawOwn(attributes, leftOut);
+    this.shapes.push(ownBox(this.fragments.model, this.class_, this.own));
     this.drawRow(this.above, -around.level - around.boxHeight, true);
     this.drawRow(this.below, this.own.height + around.level, false);
     this.drawColumn(this.left, -1);
@@ -57,11 +70,7 @@ class Neighbourhood {
     const width = this.reach(this.right) - left;
     const top = this.above.length > 0 ? -around.level - around.boxHeight - 24 : -8;
     const height = this.own.height + (this.below.length > 0 ? around.level + around.boxHeight + 24 : 8) - top;
-    const svg = draw("svg", { viewBox: [left, top, width, height].join(" "), role: "group",
-      "aria-label": "Neighbourhood of " + plain(shorten(nameOf(this.class_), longestName)) }, this.shapes);
-    // As large as it was laid out, and smaller where there is no room.
-    svg.style.maxWidth = width + "px";
-    return svg;
+    return { shapes: this.shapes, left, top, width, height };
   }
 
   // How far the picture goes to the side of those neighbours.
@@ -71,28 +80,8 @@ class Neighbourhood {
     return Math.max(column, inRow * (around.boxWidth + 16) / 2) + 8;
   }
 
-  drawOwn(attributes, leftOut) {
-    const { own } = this;
-    const group = draw("g", { class: "own" }, draw("rect", { x: own.x, y: own.y, width: own.width, height: own.height, rx: 4 }),
-      text(0, own.y + 22, fit(nameOf(this.class_), own.width - 16, "name"), "middle", "name"));
-    let y = own.y + around.boxHeight + 17;
-    if (attributes.length > 0) group.append(line(own.x, own.y + around.boxHeight, own.x + own.width, own.y + around.boxHeight));
-    for (const attribute of attributes) {
-      const type = this.fragments.model.get(attribute.type);
-      const words = nameOf(attribute) + (type === undefined ? "" : ": " + nameOf(type));
-      group.append(text(own.x + 10, y, fit(words, own.width - 20, "plain"), "start", ""));
-      y += around.lineHeight;
-    }
-    if (leftOut > 0) group.append(text(own.x + 10, y, leftOut + " more", "start", "label"));
-    this.shapes.push(group);
-  }
-
   drawBox(neighbour, x, y) {
-    const name = nameOf(neighbour.class_);
-    this.shapes.push(draw("a", { href: "#" + this.fragments.addresses.of(neighbour.class_) },
-      draw("title", {}, shorten(name, longestName)),
-      draw("rect", { x, y, width: around.boxWidth, height: around.boxHeight, rx: 4 }),
-      text(x + around.boxWidth / 2, y + 22, fit(name, around.boxWidth - 12, "name"), "middle", "name")));
+    this.shapes.push(neighbourBox(this.fragments.addresses, neighbour.class_, x, y, around.boxWidth));
   }
 
   // Supertypes or subtypes: each with a line of its own to the class, the triangle at the supertype.
@@ -106,8 +95,7 @@ class Neighbourhood {
       const x = (i - (count - 1) / 2) * step;
       const path = isAbove ? [[0, near], [0, middle], [x, middle], [x, far + 12]] : [[x, far], [x, middle], [0, middle], [0, near + 12]];
       this.shapes.push(polyline(path, neighbours[i].isDashed));
-      const tip = isAbove ? [x, far] : [0, near];
-      this.shapes.push(draw("polygon", { points: [tip, [tip[0] - 7, tip[1] + 12], [tip[0] + 7, tip[1] + 12]].join(" ") }));
+      this.shapes.push(triangle(isAbove ? [x, far] : [0, near], [0, 1]));
       this.drawBox(neighbours[i], x - around.boxWidth / 2, y);
     }
     if (neighbours.length > count) {
@@ -136,11 +124,11 @@ class Neighbourhood {
     this.shapes.push(polyline([[near, y], [far, y]], neighbour.isDashed));
     if (neighbour.isArrow) {
       const tip = side > 0 ? far : near;
-      this.shapes.push(polyline([[tip - 9, y - 5], [tip, y], [tip - 9, y + 5]], false));
+      this.shapes.push(arrow([tip, y], [-1, 0]));
       return;
     }
-    if (neighbour.other.isAggregate) this.drawDiamond(near, y, side, neighbour.association.isComposite);
-    if (neighbour.role.isAggregate) this.drawDiamond(far, y, -side, neighbour.association.isComposite);
+    if (neighbour.other.isAggregate) this.shapes.push(diamond([near, y], [side, 0], neighbour.association.isComposite));
+    if (neighbour.role.isAggregate) this.shapes.push(diamond([far, y], [-side, 0], neighbour.association.isComposite));
     const label = (x, role, opposite, anchor) => {
       // Where the opposite end says nothing its room is there to be taken.
       const roomFor = (field) => (opposite[field] ? around.gap / 2 - 24 : around.gap - 40);
@@ -151,34 +139,6 @@ class Neighbourhood {
     label(near + side * 18, role, other, side > 0 ? "start" : "end");
     label(far - side * 18, other, role, side > 0 ? "end" : "start");
   }
-
-  drawDiamond(x, y, side, isFull) {
-    const points = [[x, y], [x + side * 7, y - 5], [x + side * 14, y], [x + side * 7, y + 5]];
-    this.shapes.push(draw("polygon", { class: isFull ? "full" : "", points: points.join(" ") }));
-  }
 }
 
 function shownCount(neighbours, most) { return Math.min(neighbours.length, most); }
-
-function text(x, y, content, anchor, class_) {
-  return draw("text", { x, y, "text-anchor": anchor, class: class_ }, content);
-}
-
-function line(x1, y1, x2, y2) { return draw("line", { x1, y1, x2, y2 }); }
-
-function polyline(points, isDashed) {
-  return draw("polyline", { points: points.join(" "), class: isDashed ? "dashed" : "" });
-}
-
-// As much of a text as fits the width, by what letters of that kind need on average.
-const letterWidths = { name: 7.6, label: 6.8, plain: 6.7 };
-const wideLetter = 12.5;
-
-function fit(content, width, kind) {
-  let used = 0;
-  for (let i = 0; i < content.length; ++i) {
-    used += content.charCodeAt(i) < 0x2e80 ? letterWidths[kind] : wideLetter;
-    if (used > width) return shorten(content, Math.max(i - 1, 1));
-  }
-  return content;
-}

@@ -63,11 +63,15 @@ class JsonEvents {
 }
 
 template <class Writer>
-void saveAsText(const KYRFile& file, const KYRStoreModel& model) {
+void writeAsText(const KYRStoreModel& model, BlockSink& sink) {
+  Writer writer(sink);
+  writeStoreModel(model, writer);
+}
+
+void saveAsText(const KYRFile& file, const KYRStoreModel& model, StoreModelFormat format) {
   ReplacedFile output(file);
   BackgroundSink background(output);
-  Writer writer(background);
-  writeStoreModel(model, writer);
+  writeStoreModelText(model, format, background);
   background.finish();
   output.commit();
 }
@@ -76,14 +80,13 @@ void saveAsText(const KYRFile& file, const KYRStoreModel& model) {
 
 void saveStoreModelFile(const KYRFile& file, const KYRStoreModel& model, StoreModelFormat format) {
   const KYRPhaseTimer timer(KYRPhase::save);
-  switch (format) {
-    case StoreModelFormat::json:
-      return saveAsText<JsonStoreModelWriter>(file, model);
-    case StoreModelFormat::sqlite:
-      return saveSqliteModel(file, model);
-    case StoreModelFormat::sql:
-      return saveAsText<SqlStoreModelWriter>(file, model);
-  }
+  if (format == StoreModelFormat::sqlite) return saveSqliteModel(file, model);
+  saveAsText(file, model, format);
+}
+
+void writeStoreModelText(const KYRStoreModel& model, StoreModelFormat format, BlockSink& sink) {
+  if (format == StoreModelFormat::sql) return writeAsText<SqlStoreModelWriter>(model, sink);
+  writeAsText<JsonStoreModelWriter>(model, sink);
 }
 
 void saveStoreModelFile(const KYRFile& file, const KYRStoreModel& model) {

@@ -6,6 +6,7 @@
 
 #include "foundation/KYRFile.h"
 #include "repository/model/KYRStoreModel.h"
+#include "repository/storage/BlockOutput.h"
 
 enum class StoreModelFormat {
   json,
@@ -19,6 +20,10 @@ enum class StoreModelFormat {
 KYR_EXPORT void saveStoreModelFile(const KYRFile& file, const KYRStoreModel& model, StoreModelFormat format);
 /// The same, as JSON.
 KYR_EXPORT void saveStoreModelFile(const KYRFile& file, const KYRStoreModel& model);
+
+/// Writes the model as it would stand in a file, in a format that is a text: json or sql. Raises what the
+/// sink raises.
+KYR_EXPORT void writeStoreModelText(const KYRStoreModel& model, StoreModelFormat format, BlockSink& sink);
 
 /// Adds the model to the SQLite file, which is made when it is missing; a model of the same origin path
 /// is replaced. It is one transaction, and waits for other processes that write to the file, for ten

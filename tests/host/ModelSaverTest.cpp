@@ -1,7 +1,9 @@
 // The host's part in saving: which format, and for how long.
 #include "host/ModelSaver.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <fstream>
 #include <sstream>
@@ -10,12 +12,14 @@
 
 namespace {
 
-std::string startOf(const std::string& path) {
+std::string contentOf(const std::string& path) {
   std::ifstream file(path, std::ios::binary);
   std::stringstream text;
   text << file.rdbuf();
-  return text.str().substr(0, 6);
+  return text.str();
 }
+
+std::string startOf(const std::string& path) { return contentOf(path).substr(0, 6); }
 
 TEST(ModelSaver, SavesInItsFormatAndCounts) {
   const TemporaryFile file("");
@@ -26,6 +30,25 @@ TEST(ModelSaver, SavesInItsFormatAndCounts) {
   StoreModelSaver::getInstalled()->save(target, model);
   EXPECT_EQ(startOf(file.path), "SQLite");
   EXPECT_TRUE(saver.getCounts().has_value());
+}
+
+TEST(ModelSaver, WritesToAnOutputWhatAFileWouldHold) {
+  for (const StoreModelFormat format : {StoreModelFormat::json, StoreModelFormat::sql}) {
+    const TemporaryFile file("");
+    const TemporaryFile written("");
+    const KYRFile target{KYRString(file.path)};
+    const KYRStoreModel model;
+    ModelSaver(format, false).save(target, model);
+    const int descriptor = open(written.path.c_str(), O_WRONLY);
+    ASSERT_GE(descriptor, 0);
+    Output output(descriptor);
+    ModelSaver saver(format, output);
+    saver.save(KYRFile("/nowhere/-"), model);
+    output.flush();
+    close(descriptor);
+    EXPECT_EQ(contentOf(written.path), contentOf(file.path));
+    EXPECT_TRUE(saver.getCounts().has_value());
+  }
 }
 
 TEST(ModelSaver, AppendsWhereThatIsWanted) {

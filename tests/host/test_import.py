@@ -64,6 +64,26 @@ class Output(CommandTest):
                 self.assertIn(f"Wrote '{expected}'", result.output)
                 (self.folder / expected).unlink()
 
+    def test_o_with_a_dash_is_the_standard_output(self):
+        for format_ in ("json", "sql"):
+            with self.subTest(format=format_):
+                options = [SMALL, "--format", format_, "--modification-time", "2026-01-01"]
+                self.assertEqual(self.kyr("import", *options, "-o", "file").code, DONE)
+                before = self.names()
+                result = self.kyr("import", *options, "-o", "-")
+                self.assertEqual(result.code, DONE)
+                self.assertEqual(result.output, (self.folder / "file").read_text(encoding="utf-8"))
+                self.assertRegex(result.errors, r"\nWrote '-' in [0-9.]+ s\npackages 1, classes 2,")
+                self.assertEqual(self.kyr("import", *options, "-o", "-", "-q").output, result.output)
+                self.assertEqual(self.names(), before)
+        self.assertFails(self.kyr("import", "missing.xmi", "-o", "-"), FAILED, "missing.xmi")
+        self.assertFails(self.kyr("import", SMALL, "--format", "sqlite", "-o", "-"), WRONG_USAGE, "[KYRHOST_F0038] ")
+        self.assertFails(self.kyr("import", SMALL, "--append", "-o", "-"), WRONG_USAGE, "[KYRHOST_F0038] ")
+        self.assertFails(self.kyr("import", SMALL, "file", "-o", "-"), WRONG_USAGE, "[KYRHOST_F0032] ")
+        summary = self.kyr("import", SMALL, "-o", "-", "--log-format", "json")
+        self.assertEqual(json.loads(summary.output)["format"], "kyr-store-model")
+        self.assertEqual(json.loads(summary.error_lines[-1])["output"], "-")
+
     def test_a_name_that_begins_with_a_dash_follows_two_dashes(self):
         self.write("-shop.xmi", SMALL.read_bytes())
         self.assertEqual(self.kyr("import", "--", "-shop.xmi").code, DONE)
@@ -350,6 +370,9 @@ class Streams(CommandTest):
                 self.assertIn("[KYRHOST_F0013] The standard output cannot be written to: No space left",
                               result.errors)
             self.assertEqual(self.kyr("import", SMALL, stdout=full).code, DONE)
+            result = self.kyr("import", SMALL, "-q", "-o", "-", stdout=full)
+            self.assertEqual(result.code, FAILED)
+            self.assertIn("[KYRHOST_F0013] ", result.errors)
 
 
 class Trace(CommandTest):

@@ -1,5 +1,7 @@
 """The options that say what a file may go to: exactly the limit passes, and beyond it the file is refused."""
 
+import pathlib
+import re
 import unittest
 
 from support import CommandTest
@@ -74,6 +76,18 @@ class LimitsTest(CommandTest):
                               ("--max-name", ""), ("--max-depth", "99999999999999999999")):
             with self.subTest(option=option, value=value):
                 self.assertEqual(self.run_with("inspect", option, value, nested(3)).code, 2)
+
+
+class Documented(CommandTest):
+    def test_the_documentation_has_the_limits_of_the_help(self):
+        help_ = " ".join(self.kyr("import", "--help").output.split())
+        page = (pathlib.Path(__file__).resolve().parents[2] / "docs" / "limits.md").read_text(encoding="utf-8")
+        for option in sorted({limit[0] for limit in LIMITS}):
+            with self.subTest(option=option):
+                usual = re.search(rf"{option} [A-Z]+ [^-]*?\((\d+)\)", help_).group(1)
+                rows = [line for line in page.splitlines() if line.endswith(f"| `{option}` |")]
+                self.assertEqual(len(rows), 1)
+                self.assertIn(f"| {usual} ", rows[0])
 
 
 if __name__ == "__main__":

@@ -1,9 +1,15 @@
 """`kyr report`: a saved model, and its page. What the page does in a browser is tested in tests/report."""
 
 import json
+import os
+import pathlib
+import shutil
+import signal
+import subprocess
+import time
 import unittest
 
-from support import DONE, FAILED, SMALL, WRONG_USAGE, CommandTest
+from support import DONE, FAILED, KYR, SMALL, WRONG_USAGE, CommandTest, children_of
 
 
 class Reporting(CommandTest):
@@ -80,6 +86,113 @@ class Reporting(CommandTest):
         self.save()
         self.assertFails(self.kyr("report", "shop.json", "-o", "missing/page.html"), FAILED, "missing/page.html")
         self.assertEqual(self.names(), ["other.json", "shop.json"])
+
+
+def is_alive(number):
+    try:
+        return "Z" not in pathlib.Path(f"/proc/{number}/stat").read_text().rsplit(")", 1)[1].split()[0]
+    except (FileNotFoundError, ProcessLookupError):
+        return False
+
+
+class LayingOut(CommandTest):
+    """The pictures around classes, with a Graphviz that works, fails or is not there."""
+
+    def setUp(self):
+        super().setUp()
+        self.assertEqual(self.kyr("import", SMALL, "-q", "-o", "shop.json").code, DONE)
+        self.assertEqual(self.report("simple.html", "simple").errors, "")
+        self.simple = (self.folder / "simple.html").read_bytes()
+
+    def report(self, name, layout=None, path=None):
+        options = ["--layout", layout] if layout else []
+        environment = dict(os.environ) if path is None else dict(os.environ, PATH=path)
+        return self.kyr("report", "shop.json", "-o", name, *options, env=environment)
+
+    def program(self, script, mode=0o755):
+        """The PATH with that program 'dot' before all others."""
+        folder = self.folder / "bin"
+        folder.mkdir(exist_ok=True)
+        (folder / "dot").write_text(script, encoding="utf-8")
+        (folder / "dot").chmod(mode)
+        return f"{folder}:/usr/bin:/bin"
+
+    def assertIsSimple(self, result, name, warning):
+        self.assertEqual((result.code, result.output), (DONE, f"Wrote '{name}'\n"))
+        self.assertEqual(result.errors, warning)
+        self.assertEqual((self.folder / name).read_bytes(), self.simple)
+
+    @unittest.skipUnless(shutil.which("dot"), "Graphviz is not installed")
+    def test_graphviz_lays_out_the_pictures_where_it_is_installed(self):
+        pages = []
+        for layout in (None, "auto", "graphviz", "graphviz"):
+            self.assertEqual(self.report("page.html", layout).errors, "")
+            pages.append((self.folder / "page.html").read_bytes())
+        self.assertEqual(set(pages), {pages[0]})
+        self.assertNotEqual(pages[0], self.simple)
+        text = pages[0].decode("utf-8")
+        start = '<script type="application/json" id="pictures">'
+        pictures = json.loads(text.split(start)[1].split("</script>")[0])
+        self.assertGreater(len(pictures), 0)
+        self.assertEqual(text.replace(start + text.split(start)[1].split("</script>")[0] + "</script>\n", ""),
+                         self.simple.decode("utf-8"))
+
+    def test_without_graphviz_the_page_is_the_simple_one(self):
+        empty = self.folder / "empty"
+        empty.mkdir()
+        message = ("WARNING KYRHOST_W0054 Graphviz does not lay out the pictures around the classes, so the page "
+                   "does: there is no program 'dot' on the PATH\n")
+        for path in (str(empty), "", ".", self.program("#!/bin/sh\n", 0o644).split(":")[0]):
+            with self.subTest(path=path):
+                self.assertIsSimple(self.report("page.html", None, path), "page.html", "")
+                self.assertIsSimple(self.report("page.html", "auto", path), "page.html", "")
+                self.assertIsSimple(self.report("page.html", "graphviz", path), "page.html", message)
+                self.assertIsSimple(self.report("page.html", "simple", path), "page.html", "")
+
+    def test_a_graphviz_that_fails_is_told_and_the_page_is_the_simple_one(self):
+        ended, odd = "'dot' has ended before it has answered", "'dot' answers what was not asked"
+        for script, reason in (("#!/bin/sh\nexit 1\n", ended), ("#!/bin/sh\nkill -SEGV $$\n", ended),
+                               ("\x7fELF", ended), ("#!/bin/sh\necho no >&2; cat >/dev/null\n", ended),
+                               ("#!/bin/sh\nexec cat\n", odd), ("#!/bin/sh\nexec cat /dev/zero\n", odd)):
+            with self.subTest(script=script):
+                message = ("WARNING KYRHOST_W0054 Graphviz does not lay out the pictures around the classes, so the "
+                           f"page does: {reason}\n")
+                self.assertIsSimple(self.report("page.html", None, self.program(script)), "page.html", message)
+
+    def test_simple_starts_no_program(self):
+        path = self.program(f"#!/bin/sh\necho here > {self.folder}/trace\n")
+        self.assertIsSimple(self.report("page.html", "simple", path), "page.html", "")
+        self.assertNotIn("trace", self.names())
+
+    def test_another_layout_is_wrong_usage(self):
+        result = self.report("page.html", "pretty")
+        self.assertFails(result, WRONG_USAGE, "--layout")
+
+    def test_a_signal_leaves_no_program_and_no_page(self):
+        environment = dict(os.environ, PATH=self.program(f"#!/bin/sh\nsleep 1000 &\necho $! > {self.folder}/pid\nwait\n"))
+        trace = self.folder / "pid"
+        for number in (signal.SIGINT, signal.SIGTERM, signal.SIGHUP, signal.SIGKILL):
+            with self.subTest(signal=number):
+                process = subprocess.Popen([KYR, "report", "shop.json", "-o", "page.html"], cwd=self.folder, env=environment)
+                while not (trace.exists() and trace.read_text().endswith("\n")):
+                    self.assertIsNone(process.poll())
+                    time.sleep(0.01)
+                grandchild = int(trace.read_text())
+                processes = children_of(process)
+                self.assertEqual(len(processes), 1)
+                # A process that is killed cannot end what its child has started.
+                if number != signal.SIGKILL:
+                    processes.append(grandchild)
+                process.send_signal(number)
+                self.assertEqual(process.wait(), -number)
+                end = time.monotonic() + 30
+                while any(map(is_alive, processes)) and time.monotonic() < end:
+                    time.sleep(0.01)
+                self.assertEqual([one for one in processes if is_alive(one)], [])
+                if is_alive(grandchild):
+                    os.kill(grandchild, signal.SIGKILL)
+                trace.unlink()
+                self.assertEqual(self.names(), ["bin", "shop.json", "simple.html"])
 
 
 if __name__ == "__main__":

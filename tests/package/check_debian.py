@@ -4,7 +4,8 @@
 Every file belongs to one package, to root, and is writable for root alone; packages need each other in their own
 version and of the system what their binaries are linked with. The installed `kyr` imports a sample and knows no
 folder of the build, the development package has what find_package(kyr) needs, the soname of the library has its
-version, and when all are removed nothing is left. Ends with 77 where the tools of Debian are missing.
+version, and when all are removed nothing is left. With that root as the only one, and what the binaries need of the
+system, every command runs. Ends with 77 where the tools of Debian are missing.
 
     check_debian.py CPACK BUILD_FOLDER SOURCE_FOLDER OUTPUT_FOLDER
 """
@@ -79,6 +80,8 @@ def check_dependencies(found):
         expect(exact <= set(depends.split(", ")), f"{name} depends on {depends}")
         expect(others >= set(system) and not others & set(PACKAGES), f"{name} depends on {depends}")
         expect(system or not others, f"{name} depends on {depends}")
+    suggests = run("dpkg-deb", "-f", found["kyr"], "Suggests").strip()
+    expect(suggests == "graphviz", f"kyr suggests {suggests}")
 
 
 def check_installed(root, source):
@@ -100,6 +103,30 @@ def check_installed(root, source):
         expect((usr / part).exists(), f"{part} is not installed")
 
 
+def check_chroot(root, source):
+    """The same with that root as the only one: nothing is there but the packages and what their binaries need."""
+    change = ["chroot"] if os.getuid() == 0 else ["unshare", "--map-root-user", "chroot"]
+    binaries = [root / "usr" / part for part in ("bin/kyr", "lib/libkyr.so.10", "lib/kyr/libKYROmgUml2XmiImport.so")]
+    needed = {path for binary in binaries for path in re.findall(r"(/\S+) \(0x", run("ldd", binary))}
+    copies = [(pathlib.Path(path), root / path.lstrip("/")) for path in needed if not path.startswith(str(root))]
+    copies.append((source / "samples" / "plain.xmi", root / "plain.xmi"))
+    for path, copy in copies:
+        copy.parent.mkdir(parents=True, exist_ok=True)
+        shutil.copy(path, copy)
+    trial = subprocess.run([*change, root, "/usr/bin/kyr", "--version"], capture_output=True, text=True, check=False)
+    if "not permitted" in trial.stderr or "not found" in trial.stderr:
+        print(f"not tried with a root of its own: {trial.stderr.strip()}")
+    else:
+        for command, wanted in ((["import", "plain.xmi", "-o", "a.json"], "classes 6"),
+                                (["import", "plain.xmi", "-o", "a.sqlite"], "classes 6"),
+                                (["inspect", "plain.xmi"], "UMLProperty"), (["info", "--json"], "KBI_UML2XMI"),
+                                (["report", "a.json"], "Wrote 'a.html'"), (["diff", "a.json", "a.json"], "equal")):
+            output = run(*change, root, "/usr/bin/kyr", *command)
+            expect(wanted in output, f"kyr {command[0]} in a root of its own says {output}")
+    for _, copy in copies:
+        copy.unlink()
+
+
 def main(cpack, build_folder, source, output):
     as_root = [] if os.getuid() == 0 else ["fakeroot"]
     missing = [tool for tool in (*TOOLS, *as_root) if shutil.which(tool) is None]
@@ -118,6 +145,7 @@ def main(cpack, build_folder, source, output):
         dpkg = [*as_root, "dpkg", f"--root={root}", "--force-script-chrootless", "--force-depends", "--log=/dev/null"]
         run(*dpkg, "--install", *(found[name] for name in PACKAGES))
         check_installed(root, pathlib.Path(source).resolve())
+        check_chroot(root, pathlib.Path(source).resolve())
         run(*dpkg, "--purge", *reversed(PACKAGES))
         usr = root / "usr"
         left = files_below(usr) if usr.exists() else []

@@ -48,6 +48,7 @@ def problems_of(kyr, folder):
     script = folder / "bash" / "kyr"
     for words, expected in ((("kyr", "im"), ["import"]), (("kyr", "import", "--tra"), ["--trace"]),
                             (("kyr", "import", "--format", "sql"), ["sqlite", "sql"]),
+                            (("kyr", "report", "--layout", ""), ["auto", "graphviz", "simple"]),
                             (("kyr", "inspect", "ky"), ["kyr"]), (("kyr", ""), [*commands, "--help", "--version"])):
         if complete(script, *words) != expected:
             yield f"bash completes {words} to {complete(script, *words)}"

@@ -17,9 +17,9 @@
 
 namespace {
 
-std::string pageOf(const KYRStoreModel& model, std::string_view messages = {}) {
+std::string pageOf(const KYRStoreModel& model, const ReportAdditions& additions = {}) {
   TextSink sink;
-  writeReport(model, messages, sink);
+  writeReport(model, additions, sink);
   return sink.text;
 }
 
@@ -61,8 +61,8 @@ const char* const hostileNames[] = {
     "<!--<script>",
     "</SCRIPT\n><img src=x onerror=alert(1)>",
     "\"'`${alert(1)}&lt;/script&gt;]]>",
-    "\xE2\x80\xAE"
-    "evil\xE2\x81\xA6\xEF\xBB\xBF",
+    ("\xE2\x80\xAE"
+     "evil\xE2\x81\xA6\xEF\xBB\xBF"),
     "not \xFF\xC0\xAF UTF-8",
 };
 
@@ -149,6 +149,13 @@ TEST(ReportWriter, MessagesOfTheImportStandInAnElementOfTheirOwn) {
   const std::string start = "<script type=\"application/json\" id=\"messages\">";
   const auto model = modelNamed("Shop");
   EXPECT_EQ(countOf(pageOf(*model), "id=\"messages\""), 0U);
-  const std::string page = pageOf(*model, R"([["WARNING","X_W0001","a </script>"]])");
+  const std::string page = pageOf(*model, {R"([["WARNING","X_W0001","a </script>"]])", {}});
   EXPECT_EQ(contentOf(page, start), R"([["WARNING","X_W0001","a \u003c/script>"]])");
+}
+
+TEST(ReportWriter, PicturesThatAreLaidOutStandInAnElementOfTheirOwn) {
+  const auto model = modelNamed("Shop");
+  EXPECT_EQ(countOf(pageOf(*model), "id=\"pictures\""), 0U);
+  const std::string page = pageOf(*model, {{}, R"({"3":"wEoD"})"});
+  EXPECT_EQ(contentOf(page, "<script type=\"application/json\" id=\"pictures\">"), R"({"3":"wEoD"})");
 }

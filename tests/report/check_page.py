@@ -5,7 +5,8 @@
 
 Makes the pages: of samples, of a model that means harm, and of one with 20,000 classes. browser/check_page.mjs
 then does what is to be done in them. The modules that it needs are installed into MODULE_FOLDER. Where
-Chromium, node or npm are not there, or the modules cannot be had, the test says so and ends with 77: skipped.
+Chromium, node or npm are not there, or the modules cannot be had, the test says so and ends with 77: skipped. Pages
+whose pictures Graphviz has laid out are looked at where it is installed.
 """
 
 import json
@@ -147,6 +148,36 @@ def large_model(path):
     saved.write(path)
 
 
+def tied_model(path):
+    """A class with every kind of tie, to itself too, and others of which each is tied in one way."""
+    saved = SavedModel("Tied")
+
+    def association(first, second, names=("", ""), part=None, **fields):
+        roles = [{"class": "KYRAssociationRole", "name": name, "multiplicity": "0..*", "associatedClass": Reference(end)}
+                 for name, end in zip(names, (first, second))]
+        if part is not None:
+            roles[part]["isAggregate"] = True
+        return {"class": "KYRAssociation", "roles": roles, **fields}
+
+    def generalization(super_, sub):
+        role = lambda class_: [{"class": "KYRGeneralizationRole", "associatedClass": Reference(class_)}]
+        return {"class": "KYRGeneralization", "supertypeRoles": role(super_), "subtypeRoles": role(sub)}
+
+    own, person, manager, firm, named, clock, payroll, long = [{"class": "KYRClass", "name": name} for name in (
+        "Employee", "Person", "Manager", "Firm", "Named", "Clock", "Payroll", "ANameThatNoBoxHasRoomFor" * 9)]
+    own["attributes"] = [{"class": "KYRAttribute", "name": f"field{number}"} for number in range(11)]
+    relations = [
+        generalization(person, own), generalization(own, manager),
+        {"class": "KYRRealization", "realizationClass": Reference(named), "specificationClass": Reference(own)},
+        association(own, own, ("boss", "reports")), association(firm, own, ("employer", "staff"), 1, isComposite=True),
+        association(own, firm, ("", "lends to")), association(own, long, ("x", "aRoleThatNobodyCouldWriteInOneGo" * 9), 0),
+        {"class": "KYRDependency", "clientClass": Reference(own), "supplierClass": Reference(clock)},
+        {"class": "KYRDependency", "clientClass": Reference(payroll), "supplierClass": Reference(own)}]
+    saved.model["designPackages"] = [{"class": "KYRDesignPackage", "name": "P", "elements": [
+        own, person, manager, firm, named, clock, payroll, long, *relations]}]
+    saved.write(path)
+
+
 def deep_model(path):
     """Packages in packages, a class in the last. Written as text: the encoder would not go so deep."""
     head = '{"format":"kyr-store-model","version":1,"designLevel":1,"storeType":3,"origins":[],"model":'
@@ -166,13 +197,19 @@ def make_pages(kyr, source, folder):
         run("import", source / "samples" / sample, "-q", "-o", f"{name}.json", "--log-file", f"{name}.log")
     hostile_model(folder / "hostile.json")
     large_model(folder / "large.json")
+    tied_model(folder / "tied.json")
     deep_model(folder / "deep.json")
     with open(folder / "hostile.log", "w", encoding="utf-8") as log:
         log.write(f"WARNING {HOSTILE} {HOSTILE}\n{LONG}\n{TURNED}\n")
-    for name in ("wine", "database", "large", "deep"):
-        run("report", f"{name}.json")
+    for name in ("wine", "database", "large", "deep", "tied"):
+        run("report", f"{name}.json", "--layout", "simple")
     for name in ("plain", "hostile"):
-        run("report", f"{name}.json", "--messages", f"{name}.log")
+        run("report", f"{name}.json", "--layout", "simple", "--messages", f"{name}.log")
+    if shutil.which("dot") is None:
+        print("Graphviz is not installed, so its pictures are not looked at: scripts/install-deps.sh graphviz")
+        return
+    for name in ("wine", "plain", "hostile", "large", "tied"):
+        run("report", f"{name}.json", "--layout", "graphviz", "-o", f"{name}-graphviz.html")
 
 
 def main(kyr, source, modules):

@@ -68,11 +68,12 @@ class Server:
     def __exit__(self, *_):
         self.tool("pg_ctl", "-D", self.data, "-m", "immediate", "-w", "stop")
 
-    def psql(self, database, *arguments):
-        """What psql prints; it must succeed. The encoding of the terminal is a wrong one on purpose."""
+    def psql(self, database, *arguments, text=b""):
+        """What psql prints; it must succeed, and reads the text. The encoding of the terminal is a wrong one on
+        purpose."""
         environment = dict(os.environ, PGCLIENTENCODING="LATIN1", PGOPTIONS="-c client_min_messages=warning")
         result = subprocess.run(["psql", "-X", "-q", "-h", self.folder, "-U", "kyr", "-d", database,
-                                 "-v", "ON_ERROR_STOP=1", *arguments], env=environment, stdin=subprocess.DEVNULL,
+                                 "-v", "ON_ERROR_STOP=1", *arguments], env=environment, input=text,
                                 stdout=subprocess.PIPE, stderr=subprocess.PIPE, check=False)
         if result.returncode != 0:
             raise RuntimeError(f"psql: {result.stderr.decode('utf-8', 'replace')}")
@@ -118,6 +119,13 @@ def run_tests(kyr, source, server, folder):
                            stderr=subprocess.DEVNULL, **environment)
         server.psql(database, "-f", os.path.join(folder, f"{number}.sql"))
         compare(server, database, os.path.join(folder, f"{number}.sqlite"))
+    # The same without a file between.
+    piped = subprocess.run([kyr, "import", f"samples/{SAMPLES[0]}", "--modification-time", "2026-01-01T00:00:00Z",
+                            "--format", "sql", "-o", "-"], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
+                           **environment).stdout
+    server.psql("postgres", "-c", "CREATE DATABASE piped")
+    server.psql("piped", "-f", "-", text=piped)
+    compare(server, "piped", os.path.join(folder, "0.sqlite"))
     # A model that has every class, field and reference.
     server.psql("postgres", "-c", "CREATE DATABASE whole")
     server.psql("whole", "-f", os.path.join(source, "tests", "repository", "data", "full-model.sql"))

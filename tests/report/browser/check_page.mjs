@@ -5,7 +5,7 @@
 // Every check runs in a page of its own. Whatever it does, nothing may be written to the console, no dialog
 // may open, and nothing but the page itself may be asked for.
 import assert from "node:assert/strict";
-import { readFileSync } from "node:fs";
+import { existsSync, readFileSync } from "node:fs";
 import { createRequire } from "node:module";
 import { join } from "node:path";
 import { setTimeout as delay } from "node:timers/promises";
@@ -16,6 +16,8 @@ const { chromium } = require("playwright-core");
 const axeSource = readFileSync(require.resolve("axe-core/axe.min.js"), "utf8");
 
 const vessels = "diagram/Cellar/Vessels%20%26%20wines";
+// Pages whose pictures around classes Graphviz has laid out are there where it is installed.
+const withGraphviz = (...names) => (existsSync(join(folder, "tied-graphviz.html")) ? [...names, ...names.map((name) => name + "-graphviz")] : names);
 const checks = [];
 const check = (name, work, options = {}) => checks.push({ name, work, options });
 
@@ -173,8 +175,8 @@ check("keys, schemas and types have their places", async (page) => {
   assert.match(await page.locator("main").innerText(), /enumeration[^]*Values[^]*Used by/);
 });
 
-check("a model without diagrams has a picture around each class", async (page) => {
-  await open(page, "plain");
+for (const plain of withGraphviz("plain")) check("a model without diagrams has a picture around each class, " + plain, async (page) => {
+  await open(page, plain);
   const classes = page.locator("main td a");
   const first = page.locator("main li a").first();
   const firstName = await first.innerText();
@@ -183,7 +185,7 @@ check("a model without diagrams has a picture around each class", async (page) =
   const hrefs = await classes.evaluateAll((all) => all.map((one) => one.getAttribute("href")));
   let pictures = 0;
   for (const href of new Set(hrefs.filter((one) => one.startsWith("#class/")))) {
-    await open(page, "plain", href.slice(1));
+    await open(page, plain, href.slice(1));
     if (await page.locator(".around svg a").count() === 0) continue;
     ++pictures;
     const target = page.locator(".around svg a").first();
@@ -193,6 +195,73 @@ check("a model without diagrams has a picture around each class", async (page) =
   }
   assert.ok(pictures > 0);
 });
+
+// The corners of boxes, and the ends of the lines between them, in the numbers of the picture.
+const shapesOf = (page) => page.locator(".around svg").evaluate((svg) => ({
+  view: svg.getAttribute("viewBox").split(" ").map(Number),
+  boxes: [...svg.querySelectorAll("rect")].map((rect) => ["x", "y", "width", "height"].map((name) => Number(rect.getAttribute(name)))),
+  ends: [...svg.querySelectorAll("path")].flatMap((path) => {
+    const numbers = path.getAttribute("d").match(/-?[0-9.]+/g).map(Number);
+    return [numbers.slice(0, 2), numbers.slice(-2)];
+  }),
+  wide: [...svg.querySelectorAll("text")].filter((text) => {
+    const { x, width } = text.getBBox();
+    const [left, , all] = svg.getAttribute("viewBox").split(" ").map(Number);
+    return x < left || x + width > left + all;
+  }).map((text) => text.textContent),
+}));
+
+for (const name of withGraphviz("tied").slice(1)) {
+  check("Graphviz lays out boxes that do not meet, and lines from box to box", async (page) => {
+    for (const class_ of ["Employee", "Person", "Manager", "Firm", "Named", "Clock", "Payroll"]) {
+      await open(page, name, "class/P/" + class_);
+      const { view, boxes, ends, wide } = await shapesOf(page);
+      assert.ok(boxes.length >= 2, class_);
+      const [left, top, width, height] = view;
+      const near = 3;
+      for (const [index, [x, y, boxWidth, boxHeight]] of boxes.entries()) {
+        assert.ok(x >= left && y >= top && x + boxWidth <= left + width && y + boxHeight <= top + height, class_);
+        for (const [otherX, otherY, otherWidth, otherHeight] of boxes.slice(index + 1)) {
+          assert.ok(x + boxWidth <= otherX || otherX + otherWidth <= x || y + boxHeight <= otherY || otherY + otherHeight <= y, class_);
+        }
+      }
+      for (const [x, y] of ends) {
+        const touches = ([boxX, boxY, boxWidth, boxHeight]) => {
+          const outside = Math.max(boxX - x, x - boxX - boxWidth, boxY - y, y - boxY - boxHeight);
+          return Math.abs(outside) <= near;
+        };
+        assert.ok(boxes.some(touches), class_ + ": " + x + "," + y);
+      }
+      assert.deepEqual(wide, [], class_);
+    }
+  });
+
+  check("a picture of Graphviz has each class once, every tie, and the words of both ends", async (page) => {
+    await open(page, name, "class/P/Employee");
+    const text = await page.locator(".around svg").textContent();
+    for (const part of ["Employee", "field7", "3 more", "Person", "Manager", "Firm", "Named", "Clock", "Payroll", "\u25c2 boss 0..*",
+      "reports 0..* \u25b8", "\u25c2 employer 0..*", "staff 0..* \u25b8", "lends to 0..* \u25b8", "\u2026 0..* \u25b8"]) {
+      assert.ok(text.includes(part), part);
+    }
+    assert.equal(await page.locator(".around svg a").count(), 7);
+    assert.equal(await page.locator(".around svg path").count(), 9);
+    assert.equal(await page.locator(".around svg path.dashed").count(), 3);
+    assert.equal(await page.locator(".around svg polygon").count(), 5); // three triangles, two diamonds
+    assert.equal(await page.locator(".around svg polygon.full").count(), 1);
+    assert.equal(await page.locator(".around svg polyline").count(), 2);
+    await assertAccessible(page, "the picture");
+    await page.locator(".around svg a").filter({ hasText: "Firm" }).locator("rect").click();
+    await arriveAt(page, "Firm");
+    await page.emulateMedia({ colorScheme: "dark" });
+    await assertAccessible(page, "the dark picture");
+  });
+
+  check("what a picture of Graphviz leaves out is counted", async (page) => {
+    await open(page, "large-graphviz", "class/Part0/Class0");
+    assert.equal(await page.locator(".around svg a").count(), 8);
+    assert.ok((await page.locator("main").innerText()).includes("Not in the picture: 4991 more, which stand in the lists."));
+  });
+}
 
 check("packages open by key, and what is open says so", async (page) => {
   await open(page, "wine");
@@ -249,6 +318,22 @@ check("a narrow window has the tree behind a button", async (page) => {
   assert.equal(over, 0);
 }, { viewport: { width: 380, height: 800 } });
 
+for (const name of withGraphviz("tied")) {
+  check("a picture in a narrow window can be read, and scrolled; paper has all of it, " + name, async (page) => {
+    await open(page, name, "class/P/Employee");
+    const measure = () => page.locator(".around svg").evaluate((svg) => ({
+      scale: svg.getBoundingClientRect().width / svg.viewBox.baseVal.width, room: svg.parentNode.clientWidth,
+      width: svg.getBoundingClientRect().width, over: document.documentElement.scrollWidth - document.documentElement.clientWidth,
+    }));
+    const shown = await measure();
+    assert.ok(shown.scale >= 0.649 && shown.width > shown.room, JSON.stringify(shown));
+    assert.equal(shown.over, 0);
+    await page.emulateMedia({ media: "print" });
+    const printed = await measure();
+    assert.ok(printed.width <= printed.room, JSON.stringify(printed));
+  }, { viewport: { width: 380, height: 800 } });
+}
+
 check("light and dark follow the system and the button", async (page) => {
   const ground = () => page.evaluate(() => getComputedStyle(document.body).backgroundColor);
   await page.emulateMedia({ colorScheme: "dark" });
@@ -260,7 +345,7 @@ check("light and dark follow the system and the button", async (page) => {
   assert.equal(await ground(), dark);
 });
 
-const everyPlace = [["wine", ""], ["wine", "package/Cellar"], ["wine", "class/Cellar/Vessel"], ["wine", "class/Cellar/Wine"],
+const everyPlace = [...withGraphviz("wine").slice(1).map((name) => [name, "class/Cellar/Vessel"]), ["wine", ""], ["wine", "package/Cellar"], ["wine", "class/Cellar/Vessel"], ["wine", "class/Cellar/Wine"],
   ["wine", vessels], ["wine", "types"], ["wine", "diagrams"], ["wine", "class/Cellar/Vessel::capacity"], ["wine", "no/such"], ["database", "schemas"]];
 // The dark page differs in its colours alone.
 const darkPlaces = everyPlace.filter(([, hash]) => ["", "class/Cellar/Wine", "class/Cellar/Vessel::capacity"].includes(hash));
@@ -275,15 +360,15 @@ for (const [colorScheme, places] of [["light", everyPlace], ["dark", darkPlaces]
   }, { colorScheme });
 }
 
-check("a model that means harm does nothing", async (page) => {
+for (const hostile of withGraphviz("hostile")) check("a model that means harm does nothing, " + hostile, async (page) => {
   await page.addInitScript(() => { globalThis.hit = () => console.error("the model ran"); });
-  await open(page, "hostile");
+  await open(page, hostile);
   assert.ok((await heading(page)).startsWith("</script><script>hit()</script><img src=x"));
   // Of a text that is an HTML document the words are shown, as text.
   assert.equal(await page.locator("main > .text").textContent(), "\"'>");
   const names = await page.evaluate(() => JSON.parse(document.getElementById("model").textContent).model.designPackages[0].elements.length);
   for (let id = 1; id <= 12 + names * 6; ++id) {
-    await open(page, "hostile", "id/" + id);
+    await open(page, hostile, "id/" + id);
     const found = await page.evaluate(() => ({
       odd: document.querySelectorAll("main script, main img, main [onerror], main [onload], main style, main iframe").length,
       links: [...document.querySelectorAll("a")].map((one) => one.getAttribute("href") || one.getAttribute("xlink:href")).filter((href) => !/^#/.test(href)),
@@ -305,7 +390,7 @@ check("a model that means harm does nothing", async (page) => {
     await page.keyboard.press("Enter");
     await arriveAt(page, name);
     const hash = new URL(page.url()).hash.slice(1);
-    await open(page, "hostile", hash);
+    await open(page, hostile, hash);
     await arriveAt(page, name);
   }
 });
