@@ -15,6 +15,7 @@
 #include "tests/reliability/ImportRun.h"
 #include "tests/reliability/Soak.h"
 #include "tests/support/FailingAllocation.h"
+#include "tests/support/MemoryGrowth.h"
 #include "tests/support/TemporaryFile.h"
 
 namespace {
@@ -60,6 +61,37 @@ bool isExplained(const ImportRun& import, const std::string& expected) {
          countOf(import.saved(), literal) < countOf(expected, literal);
 }
 
+struct Tally {
+  int faults = 0;
+  int swallowed = 0;
+};
+
+// One import that has no memory for that allocation.
+Tally importWithout(long number, Extent extent, const std::string& input, const std::string& expected) {
+  Tally tally;
+  ImportRun import(input);
+  Outcome outcome = Outcome::done;
+  {
+    const FailingAllocation failing(number, extent);
+    outcome = outcomeOf([&] { import.run(); });
+    tally.faults = failing.hasFailed() ? 1 : 0;
+  }
+  if (outcome != Outcome::done) {
+    EXPECT_TRUE(import.isUntouched()) << number;
+    return tally;
+  }
+  const std::string saved = import.saved();
+  EXPECT_EQ(import.filesInFolder(), 1U);
+  EXPECT_NO_THROW(checkComesBack(saved)) << number;
+  if (tally.faults == 0) {
+    EXPECT_EQ(saved, expected) << number;
+  } else if (saved != expected) {
+    tally.swallowed = 1;
+    EXPECT_TRUE(isExplained(import, expected)) << number;
+  }
+  return tally;
+}
+
 void failEachAllocation(const std::string& input, long cases) {
   const std::string expected = ImportRun::resultOf(input);
   long count = 0;
@@ -67,35 +99,17 @@ void failEachAllocation(const std::string& input, long cases) {
     ImportRun import(input);
     count = countAllocations([&] { import.run(); });
   }
-  int faults = 0;
-  int swallowed = 0;
+  Tally all;
   for (const Extent extent : {Extent::one, Extent::allFrom}) {
     for (long number = 0; number < count; number += stepFrom(number, count, cases)) {
-      ImportRun import(input);
-      Outcome outcome = Outcome::done;
-      bool hasFailed = false;
-      {
-        const FailingAllocation failing(number, extent);
-        outcome = outcomeOf([&] { import.run(); });
-        hasFailed = failing.hasFailed();
-      }
-      faults += hasFailed ? 1 : 0;
-      if (outcome == Outcome::done) {
-        EXPECT_EQ(import.filesInFolder(), 1U);
-        EXPECT_NO_THROW(checkComesBack(import.saved())) << number;
-        if (!hasFailed) {
-          EXPECT_EQ(import.saved(), expected) << number;
-        } else if (import.saved() != expected) {
-          ++swallowed;
-          EXPECT_TRUE(isExplained(import, expected)) << number;
-        }
-      } else {
-        EXPECT_TRUE(import.isUntouched()) << number;
-      }
+      Tally tally;
+      EXPECT_FALSE(growsEachTime([&] { tally = importWithout(number, extent, input, expected); })) << number;
+      all.faults += tally.faults;
+      all.swallowed += tally.swallowed;
     }
   }
   EXPECT_EQ(ImportRun::resultOf(input), expected);
-  std::cout << "  " << faults << " of " << 2 * count << " allocations failed, " << swallowed
+  std::cout << "  " << all.faults << " of " << 2 * count << " allocations failed, " << all.swallowed
             << " left out of a model\n";
 }
 
@@ -153,17 +167,22 @@ TEST(OutOfMemoryWithModels, LoadingDrawingSavingAndComparingRaise) {
     saveStoreModelFile(statements, *model, StoreModelFormat::sql);
   };
   const long count = countAllocations(work);
+  long faults = 0;
   const std::string savedDatabase = readWholeFile(database.getPath().getCharacters());
   const std::string savedStatements = readWholeFile(statements.getPath().getCharacters());
   for (const Extent extent : {Extent::one, Extent::allFrom}) {
     for (long number = 0; number < count; number += stepFrom(number, count, 60)) {
-      const FailingAllocation failing(number, extent);
-      outcomeOf(work);
+      EXPECT_FALSE(growsEachTime([&] {
+        const FailingAllocation failing(number, extent);
+        outcomeOf(work);
+      })) << number;
+      ++faults;
     }
   }
   EXPECT_EQ(import.filesInFolder(), 3U);
   EXPECT_EQ(readWholeFile(database.getPath().getCharacters()), savedDatabase);
   EXPECT_EQ(readWholeFile(statements.getPath().getCharacters()), savedStatements);
+  std::cout << "  " << faults << " of " << 2 * count << " allocations failed\n";
 }
 
 }  // namespace

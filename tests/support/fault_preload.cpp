@@ -21,16 +21,7 @@
 #include "tests/support/FailingAllocation.h"
 #include "tests/support/FailingCalls.h"
 
-extern "C" void __libc_free(void* memory);
-extern "C" void* __libc_memalign(std::size_t alignment, std::size_t size);
-
-// The program may bring an allocator; all memory must be of one.
-extern "C" KYR_EXPORT void free(void* memory) { __libc_free(memory); }
-
-extern "C" KYR_EXPORT void* aligned_alloc(std::size_t alignment, std::size_t size) {
-  return __libc_memalign(alignment, size);
-}
-
+// The program may bring an allocator; all memory must be of one, that of FailingAllocation.cpp.
 KYR_EXPORT void* operator new(std::size_t size) {
   for (;;) {
     if (void* const memory = malloc(size)) return memory;
@@ -42,10 +33,10 @@ KYR_EXPORT void* operator new(std::size_t size) {
 KYR_EXPORT void* operator new[](std::size_t size) { return operator new(size); }
 KYR_EXPORT void* operator new(std::size_t size, const std::nothrow_t&) noexcept { return malloc(size); }
 KYR_EXPORT void* operator new[](std::size_t size, const std::nothrow_t&) noexcept { return malloc(size); }
-KYR_EXPORT void operator delete(void* memory) noexcept { __libc_free(memory); }
-KYR_EXPORT void operator delete[](void* memory) noexcept { __libc_free(memory); }
-KYR_EXPORT void operator delete(void* memory, std::size_t) noexcept { __libc_free(memory); }
-KYR_EXPORT void operator delete[](void* memory, std::size_t) noexcept { __libc_free(memory); }
+KYR_EXPORT void operator delete(void* memory) noexcept { free(memory); }
+KYR_EXPORT void operator delete[](void* memory) noexcept { free(memory); }
+KYR_EXPORT void operator delete(void* memory, std::size_t) noexcept { free(memory); }
+KYR_EXPORT void operator delete[](void* memory, std::size_t) noexcept { free(memory); }
 
 namespace {
 
