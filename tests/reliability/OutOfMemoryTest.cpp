@@ -153,36 +153,68 @@ TEST(OutOfMemoryInThreads, AnImportRaisesOrGivesAValidModel) {
   }
 }
 
-TEST(OutOfMemoryWithModels, LoadingDrawingSavingAndComparingRaise) {
-  ImportRun import(samplePath("magicdraw-diagrams.xmi"));
-  import.run();
-  const KYRFile file(import.output().c_str());
-  const KYRFile database((import.output() + ".db").c_str());
-  const KYRFile statements((import.output() + ".sql").c_str());
-  const auto work = [&] {
-    const std::unique_ptr<KYRStoreModel> model = loadStoreModel(file);
-    drawAll(*model);
-    const ModelComparison comparison(*model, *model);
-    saveStoreModelFile(database, *model, StoreModelFormat::sqlite);
-    saveStoreModelFile(statements, *model, StoreModelFormat::sql);
-  };
-  const long count = countAllocations(work);
+// A saved model, and what is done with it.
+struct SavedSample {
+  SavedSample() : import(samplePath("magicdraw-diagrams.xmi")) {
+    import.run();
+    model = loadStoreModel(file());
+  }
+  KYRFile file(const char* ending = "") const { return KYRFile((import.output() + ending).c_str()); }
+  std::string contentOf(const char* ending) const { return readWholeFile(import.output() + ending); }
+
+  ImportRun import;
+  std::unique_ptr<KYRStoreModel> model;
+};
+
+constexpr const char* databaseEnding = ".db";
+constexpr const char* statementsEnding = ".sql";
+
+struct Work {
+  const char* name;
+  void (*action)(const SavedSample&);
+};
+
+constexpr Work works[] = {
+    {"Load", [](const SavedSample& sample) { loadStoreModel(sample.file()); }},
+    {"Draw", [](const SavedSample& sample) { drawAll(*sample.model); }},
+    {"Compare", [](const SavedSample& sample) { const ModelComparison made(*sample.model, *sample.model); }},
+    {"SaveAsDatabase",
+     [](const SavedSample& sample) {
+       saveStoreModelFile(sample.file(databaseEnding), *sample.model, StoreModelFormat::sqlite);
+     }},
+    {"SaveAsStatements",
+     [](const SavedSample& sample) {
+       saveStoreModelFile(sample.file(statementsEnding), *sample.model, StoreModelFormat::sql);
+     }},
+};
+
+class OutOfMemoryWithModels : public testing::TestWithParam<Work> {};
+
+TEST_P(OutOfMemoryWithModels, RaisesAndLeavesTheFiles) {
+  const SavedSample sample;
+  for (const Work& work : works) work.action(sample);
+  const std::string savedDatabase = sample.contentOf(databaseEnding);
+  const std::string savedStatements = sample.contentOf(statementsEnding);
+  const std::string before = savedBytesOf(*sample.model);
+  const long count = countAllocations([&] { GetParam().action(sample); });
   long faults = 0;
-  const std::string savedDatabase = readWholeFile(database.getPath().getCharacters());
-  const std::string savedStatements = readWholeFile(statements.getPath().getCharacters());
   for (const Extent extent : {Extent::one, Extent::allFrom}) {
-    for (long number = 0; number < count; number += stepFrom(number, count, 60)) {
+    for (long number = 0; number < count; number += stepFrom(number, count, 30)) {
       EXPECT_FALSE(growsEachTime([&] {
         const FailingAllocation failing(number, extent);
-        outcomeOf(work);
+        outcomeOf([&] { GetParam().action(sample); });
       })) << number;
       ++faults;
     }
   }
-  EXPECT_EQ(import.filesInFolder(), 3U);
-  EXPECT_EQ(readWholeFile(database.getPath().getCharacters()), savedDatabase);
-  EXPECT_EQ(readWholeFile(statements.getPath().getCharacters()), savedStatements);
+  EXPECT_EQ(sample.import.filesInFolder(), 3U);
+  EXPECT_EQ(sample.contentOf(databaseEnding), savedDatabase);
+  EXPECT_EQ(sample.contentOf(statementsEnding), savedStatements);
+  EXPECT_EQ(savedBytesOf(*sample.model), before);
   std::cout << "  " << faults << " of " << 2 * count << " allocations failed\n";
 }
+
+INSTANTIATE_TEST_SUITE_P(Works, OutOfMemoryWithModels, testing::ValuesIn(works),
+                         [](const auto& parameter) { return std::string(parameter.param.name); });
 
 }  // namespace
