@@ -44,7 +44,7 @@ test: build ## Run all tests: release, then address, leak and undefined behaviou
 	cmake --build --preset asan-ubsan --parallel $(JOBS)
 	ctest --preset asan-ubsan
 
-soak: build deps-soak ## Run the long loops of broken files and faults, plain and under the sanitizers (hours)
+soak: build deps-soak ## Run the long loops of broken files and faults, plain and under the sanitizers
 	ctest --preset release -C soak -L soak
 	cmake --preset asan-ubsan
 	cmake --build --preset asan-ubsan --parallel $(JOBS)

@@ -102,9 +102,12 @@ int runCommandLine(int argumentCount, const char* const* arguments) noexcept {
     Tools tools(request);
     return finish(request, tools, performSafely(request, tools));
   } catch (...) {
-    // Not even a message could be made: the text goes out as it lies in memory.
-    std::fputs(KYRHostMessages::OUT_OF_MEMORY.getText().getCharacters(), stderr);
-    std::fputs("\n", stderr);
+    sayOutOfMemory();  // not even a message could be made
     return ExitCode::failed;
   }
+}
+
+void sayOutOfMemory() noexcept {
+  std::fputs(KYRHostMessages::outOfMemoryText, stderr);
+  std::fputs("\n", stderr);
 }

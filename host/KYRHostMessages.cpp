@@ -46,7 +46,7 @@ const HostMessage<2> KYRHostMessages::LOG_FILE_INCOMPLETE(12, warning,
 const HostMessage<1> KYRHostMessages::CANNOT_WRITE_OUTPUT(13, fatal,
                                                           "The standard output cannot be written to: {0}");
 
-const HostMessage<0> KYRHostMessages::OUT_OF_MEMORY(14, fatal, "There is not enough memory");
+const HostMessage<0> KYRHostMessages::OUT_OF_MEMORY(14, fatal, outOfMemoryText);
 const HostMessage<1> KYRHostMessages::UNEXPECTED_ERROR(15, fatal, "An unexpected error occurred: {0}");
 
 const HostMessage<1> KYRHostMessages::NO_DIAGRAMS(16, fatal, "The model in '{0}' has no class diagrams");

@@ -59,6 +59,8 @@ class KYRHostMessages final : public KYRTextLiteralsCollection {
   static const HostMessage<1> TRACE_IS_OTHER_FILE;
   static const HostMessage<0> TRACE_OF_ONE_FILE;
   // What should not happen.
+  /// The text of OUT_OF_MEMORY, which is there before any static object is made.
+  static constexpr char outOfMemoryText[] = "There is not enough memory";
   static const HostMessage<0> OUT_OF_MEMORY;
   static const HostMessage<1> UNEXPECTED_ERROR;
 

@@ -1,11 +1,14 @@
 // kyr: the command line of the import bridge.
 #include <fcntl.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <csignal>
+#include <new>
 
 #include "host/CommandLine.h"
 #include "host/EndingSignals.h"
+#include "host/ExitCode.h"
 
 // Read by jemalloc, if that is the allocator. One arena serves all threads, and it is there from the start:
 // the first allocation of a thread would make another, and jemalloc crashes when there is no memory left for
@@ -15,6 +18,16 @@ extern "C" {
 }
 
 namespace {
+
+[[noreturn]] void endWithoutMemory() {
+  sayOutOfMemory();
+  _exit(ExitCode::failed);
+}
+
+// The option parser has static objects that ask for memory. What they raise would reach nobody and end the
+// process by abort, so until the main function a handler takes its place. 101 is the first number that is
+// free for programs: before all static objects of this one.
+[[gnu::constructor(101)]] void handleMemoryUntilMain() { std::set_new_handler(endWithoutMemory); }
 
 // With a standard file closed, the next file opened would take its place: a message would end up in
 // the model.
@@ -28,6 +41,7 @@ void fillStandardFiles() {
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
+  std::set_new_handler(nullptr);  // from here on an exception reaches somebody
   fillStandardFiles();
   // A reader that goes away must not kill an import; writing to it fails instead.
   std::signal(SIGPIPE, SIG_IGN);

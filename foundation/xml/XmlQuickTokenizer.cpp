@@ -21,6 +21,9 @@ constexpr std::size_t mostAttributes = 200;
 constexpr int options =
     XML_PARSE_OLD10 | XML_PARSE_HUGE | XML_PARSE_NONET | XML_PARSE_IGNORE_ENC | XML_PARSE_NOENT;
 
+// Whether an input stream that cannot be made leaves its buffer to the caller.
+constexpr bool leavesBuffer = LIBXML_VERSION < 21400;
+
 const char* toText(const xmlChar* text) noexcept { return reinterpret_cast<const char*>(text); }
 
 #if LIBXML_VERSION >= 21200
@@ -97,6 +100,8 @@ XmlQuickTokenizer::XmlQuickTokenizer(XmlInput& input, XmlEventSink& sink, std::s
 
 XmlQuickTokenizer::~XmlQuickTokenizer() = default;
 
+// What xmlCreateIOParserCtxt does in one; that one loses the buffer when there is no memory for the last
+// step.
 void XmlQuickTokenizer::openParser() {
   xmlSAXHandler handlers = {};
   handlers.initialized = 1;  // the handlers of SAX 1, which get names as written
@@ -106,9 +111,20 @@ void XmlQuickTokenizer::openParser() {
   handlers.ignorableWhitespace = Handlers::characters;
   handlers.cdataBlock = Handlers::section;
   handlers.processingInstruction = Handlers::instruction;
-  parser_.reset(
-      xmlCreateIOParserCtxt(&handlers, this, Handlers::read, nullptr, this, XML_CHAR_ENCODING_UTF8));
-  if (parser_ == nullptr || xmlCtxtUseOptions(parser_.get(), options) != 0) hasGivenUp_ = true;
+  giveUp();
+  parser_.reset(xmlNewParserCtxt());
+  if (parser_ == nullptr) return;
+  *parser_->sax = handlers;
+  parser_->userData = this;
+  const auto buffer = xmlParserInputBufferCreateIO(Handlers::read, nullptr, this, XML_CHAR_ENCODING_UTF8);
+  if (buffer == nullptr) return;
+  const auto input = xmlNewIOInputStream(parser_.get(), buffer, XML_CHAR_ENCODING_UTF8);
+  if (input == nullptr) {
+    if (leavesBuffer) xmlFreeParserInputBuffer(buffer);
+    return;
+  }
+  if (inputPush(parser_.get(), input) < 0) return xmlFreeInputStream(input);
+  hasGivenUp_ = xmlCtxtUseOptions(parser_.get(), options) != 0;
 }
 
 bool XmlQuickTokenizer::run() {

@@ -11,6 +11,7 @@
 #include "tests/repository/SqliteFile.h"
 #include "tests/support/FailingAllocation.h"
 #include "tests/support/FailingCalls.h"
+#include "tests/support/MemoryGrowth.h"
 
 namespace {
 
@@ -109,8 +110,10 @@ TEST_F(FailingAppend, OfAnyCallLeavesTheDatabase) {
 TEST_F(FailingAppend, OfAnyAllocationLeavesTheDatabase) {
   for (const auto extent : {FailingAllocation::Extent::one, FailingAllocation::Extent::allFrom}) {
     long number = 0;
-    while (appendWith([&] { return FailingAllocation(number, extent); }, "")) {
-      number += isSoaking() ? 1 : 1 + number / 10;
+    for (bool isFailing = true; isFailing; number += isSoaking() ? 1 : 1 + number / 10) {
+      EXPECT_FALSE(growsEachTime([&] {
+        isFailing = appendWith([&] { return FailingAllocation(number, extent); }, "");
+      })) << number;
     }
     EXPECT_GT(number, 0);
   }

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <fstream>
 #include <sstream>
+#include <stdexcept>
 #include <string>
 
 #include "bridge/KYROmgUml2XmiImportDllInterface.h"
@@ -13,6 +14,7 @@
 #include "foundation/KYRFile.h"
 #include "foundation/KYROption.h"
 #include "tests/support/RecordingLog.h"
+#include "tests/support/TemporaryName.h"
 #include "xmi/DispatchRows.h"
 
 inline std::string readWholeFile(const std::string& path) {
@@ -45,8 +47,8 @@ inline std::string fileOfClasses(int count) {
 class ImportRun {
  public:
   explicit ImportRun(const std::string& input) {
-    char name[] = "/tmp/kyr-run-XXXXXX";
-    folder_ = mkdtemp(name);
+    folder_ = temporaryName("run");
+    if (mkdtemp(folder_.data()) == nullptr) throw std::runtime_error("no temporary folder");
     getKYROmgUml2XmiImportInterface()->getOptionList(options_);
     options_.get("BP_FILE")->setValue(input.c_str());
     auto time = std::make_unique<KYROption>("BP_MODIFICATION_TIME", "BP_MODIFICATION_TIME", OptionType::text,

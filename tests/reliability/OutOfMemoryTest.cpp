@@ -15,6 +15,7 @@
 #include "tests/reliability/ImportRun.h"
 #include "tests/reliability/Soak.h"
 #include "tests/support/FailingAllocation.h"
+#include "tests/support/MemoryGrowth.h"
 #include "tests/support/TemporaryFile.h"
 
 namespace {
@@ -60,6 +61,37 @@ bool isExplained(const ImportRun& import, const std::string& expected) {
          countOf(import.saved(), literal) < countOf(expected, literal);
 }
 
+struct Tally {
+  int faults = 0;
+  int swallowed = 0;
+};
+
+// One import that has no memory for that allocation.
+Tally importWithout(long number, Extent extent, const std::string& input, const std::string& expected) {
+  Tally tally;
+  ImportRun import(input);
+  Outcome outcome = Outcome::done;
+  {
+    const FailingAllocation failing(number, extent);
+    outcome = outcomeOf([&] { import.run(); });
+    tally.faults = failing.hasFailed() ? 1 : 0;
+  }
+  if (outcome != Outcome::done) {
+    EXPECT_TRUE(import.isUntouched()) << number;
+    return tally;
+  }
+  const std::string saved = import.saved();
+  EXPECT_EQ(import.filesInFolder(), 1U);
+  EXPECT_NO_THROW(checkComesBack(saved)) << number;
+  if (tally.faults == 0) {
+    EXPECT_EQ(saved, expected) << number;
+  } else if (saved != expected) {
+    tally.swallowed = 1;
+    EXPECT_TRUE(isExplained(import, expected)) << number;
+  }
+  return tally;
+}
+
 void failEachAllocation(const std::string& input, long cases) {
   const std::string expected = ImportRun::resultOf(input);
   long count = 0;
@@ -67,35 +99,17 @@ void failEachAllocation(const std::string& input, long cases) {
     ImportRun import(input);
     count = countAllocations([&] { import.run(); });
   }
-  int faults = 0;
-  int swallowed = 0;
+  Tally all;
   for (const Extent extent : {Extent::one, Extent::allFrom}) {
     for (long number = 0; number < count; number += stepFrom(number, count, cases)) {
-      ImportRun import(input);
-      Outcome outcome = Outcome::done;
-      bool hasFailed = false;
-      {
-        const FailingAllocation failing(number, extent);
-        outcome = outcomeOf([&] { import.run(); });
-        hasFailed = failing.hasFailed();
-      }
-      faults += hasFailed ? 1 : 0;
-      if (outcome == Outcome::done) {
-        EXPECT_EQ(import.filesInFolder(), 1U);
-        EXPECT_NO_THROW(checkComesBack(import.saved())) << number;
-        if (!hasFailed) {
-          EXPECT_EQ(import.saved(), expected) << number;
-        } else if (import.saved() != expected) {
-          ++swallowed;
-          EXPECT_TRUE(isExplained(import, expected)) << number;
-        }
-      } else {
-        EXPECT_TRUE(import.isUntouched()) << number;
-      }
+      Tally tally;
+      EXPECT_FALSE(growsEachTime([&] { tally = importWithout(number, extent, input, expected); })) << number;
+      all.faults += tally.faults;
+      all.swallowed += tally.swallowed;
     }
   }
   EXPECT_EQ(ImportRun::resultOf(input), expected);
-  std::cout << "  " << faults << " of " << 2 * count << " allocations failed, " << swallowed
+  std::cout << "  " << all.faults << " of " << 2 * count << " allocations failed, " << all.swallowed
             << " left out of a model\n";
 }
 
@@ -103,13 +117,14 @@ class OutOfMemory : public testing::TestWithParam<const char*> {};
 
 TEST_P(OutOfMemory, AnImportRaisesOrGivesAValidModel) { failEachAllocation(samplePath(GetParam()), 40); }
 
+// From few allocations to many.
 INSTANTIATE_TEST_SUITE_P(Samples, OutOfMemory,
-                         testing::Values("plain.xmi", "enterprise-architect.xmi",
-                                         "enterprise-architect-database.xmi", "magicdraw.xmi",
-                                         "magicdraw-database.xmi", "magicdraw-diagrams.xmi",
-                                         "magicdraw-module.xmi", "together.xmi", "visual-paradigm.xmi",
-                                         "rational-software-architect.emx", "eclipse-papyrus.uml",
-                                         "odd/utf-16.xmi", "odd/package-ring.xmi"));
+                         testing::Values("odd/utf-16.xmi", "odd/package-ring.xmi", "magicdraw-module.xmi",
+                                         "together.xmi", "visual-paradigm.xmi", "eclipse-papyrus.uml",
+                                         "rational-software-architect.emx", "plain.xmi",
+                                         "magicdraw-database.xmi", "magicdraw.xmi",
+                                         "enterprise-architect.xmi", "enterprise-architect-database.xmi",
+                                         "magicdraw-diagrams.xmi"));
 
 // Threads of their own read ahead and save: what fails there comes out here.
 TEST(OutOfMemoryInThreads, AnImportRaisesOrGivesAValidModel) {
@@ -139,31 +154,68 @@ TEST(OutOfMemoryInThreads, AnImportRaisesOrGivesAValidModel) {
   }
 }
 
-TEST(OutOfMemoryWithModels, LoadingDrawingSavingAndComparingRaise) {
-  ImportRun import(samplePath("magicdraw-diagrams.xmi"));
-  import.run();
-  const KYRFile file(import.output().c_str());
-  const KYRFile database((import.output() + ".db").c_str());
-  const KYRFile statements((import.output() + ".sql").c_str());
-  const auto work = [&] {
-    const std::unique_ptr<KYRStoreModel> model = loadStoreModel(file);
-    drawAll(*model);
-    const ModelComparison comparison(*model, *model);
-    saveStoreModelFile(database, *model, StoreModelFormat::sqlite);
-    saveStoreModelFile(statements, *model, StoreModelFormat::sql);
-  };
-  const long count = countAllocations(work);
-  const std::string savedDatabase = readWholeFile(database.getPath().getCharacters());
-  const std::string savedStatements = readWholeFile(statements.getPath().getCharacters());
+// A saved model, and what is done with it.
+struct SavedSample {
+  SavedSample() : import(samplePath("magicdraw-diagrams.xmi")) {
+    import.run();
+    model = loadStoreModel(file());
+  }
+  KYRFile file(const char* ending = "") const { return KYRFile((import.output() + ending).c_str()); }
+  std::string contentOf(const char* ending) const { return readWholeFile(import.output() + ending); }
+
+  ImportRun import;
+  std::unique_ptr<KYRStoreModel> model;
+};
+
+constexpr const char* databaseEnding = ".db";
+constexpr const char* statementsEnding = ".sql";
+
+struct Work {
+  const char* name;
+  void (*action)(const SavedSample&);
+};
+
+constexpr Work works[] = {
+    {"Load", [](const SavedSample& sample) { loadStoreModel(sample.file()); }},
+    {"Draw", [](const SavedSample& sample) { drawAll(*sample.model); }},
+    {"Compare", [](const SavedSample& sample) { const ModelComparison made(*sample.model, *sample.model); }},
+    {"SaveAsDatabase",
+     [](const SavedSample& sample) {
+       saveStoreModelFile(sample.file(databaseEnding), *sample.model, StoreModelFormat::sqlite);
+     }},
+    {"SaveAsStatements",
+     [](const SavedSample& sample) {
+       saveStoreModelFile(sample.file(statementsEnding), *sample.model, StoreModelFormat::sql);
+     }},
+};
+
+class OutOfMemoryWithModels : public testing::TestWithParam<Work> {};
+
+TEST_P(OutOfMemoryWithModels, RaisesAndLeavesTheFiles) {
+  const SavedSample sample;
+  for (const Work& work : works) work.action(sample);
+  const std::string savedDatabase = sample.contentOf(databaseEnding);
+  const std::string savedStatements = sample.contentOf(statementsEnding);
+  const std::string before = savedBytesOf(*sample.model);
+  const long count = countAllocations([&] { GetParam().action(sample); });
+  long faults = 0;
   for (const Extent extent : {Extent::one, Extent::allFrom}) {
-    for (long number = 0; number < count; number += stepFrom(number, count, 60)) {
-      const FailingAllocation failing(number, extent);
-      outcomeOf(work);
+    for (long number = 0; number < count; number += stepFrom(number, count, 30)) {
+      EXPECT_FALSE(growsEachTime([&] {
+        const FailingAllocation failing(number, extent);
+        outcomeOf([&] { GetParam().action(sample); });
+      })) << number;
+      ++faults;
     }
   }
-  EXPECT_EQ(import.filesInFolder(), 3U);
-  EXPECT_EQ(readWholeFile(database.getPath().getCharacters()), savedDatabase);
-  EXPECT_EQ(readWholeFile(statements.getPath().getCharacters()), savedStatements);
+  EXPECT_EQ(sample.import.filesInFolder(), 3U);
+  EXPECT_EQ(sample.contentOf(databaseEnding), savedDatabase);
+  EXPECT_EQ(sample.contentOf(statementsEnding), savedStatements);
+  EXPECT_EQ(savedBytesOf(*sample.model), before);
+  std::cout << "  " << faults << " of " << 2 * count << " allocations failed\n";
 }
+
+INSTANTIATE_TEST_SUITE_P(Works, OutOfMemoryWithModels, testing::ValuesIn(works),
+                         [](const auto& parameter) { return std::string(parameter.param.name); });
 
 }  // namespace

@@ -9,6 +9,7 @@
 
 #include "tests/reliability/ImportRun.h"
 #include "tests/support/FailingAllocation.h"
+#include "tests/support/MemoryGrowth.h"
 
 namespace {
 
@@ -66,19 +67,21 @@ TEST(PluginLoop, LoadingWithoutMemoryFailsWithAReasonOrGivesAWholePlugin) {
   for (const auto extent : {FailingAllocation::Extent::one, FailingAllocation::Extent::allFrom}) {
     bool isFailing = true;
     for (long number = 0; isFailing; ++number) {
-      void* library = nullptr;
-      {
-        const FailingAllocation failing(number, extent);
-        library = load();
-        isFailing = failing.hasFailed();
-      }
-      if (library == nullptr) {
-        ++failed;
-        EXPECT_TRUE(isFailing);
-        EXPECT_NE(dlerror(), nullptr);
-      } else {
-        importBy(library, folder.output());
-      }
+      EXPECT_FALSE(growsEachTime([&] {
+        void* library = nullptr;
+        {
+          const FailingAllocation failing(number, extent);
+          library = load();
+          isFailing = failing.hasFailed();
+        }
+        if (library == nullptr) {
+          ++failed;
+          EXPECT_TRUE(isFailing);
+          EXPECT_NE(dlerror(), nullptr);
+        } else {
+          importBy(library, folder.output());
+        }
+      })) << number;
     }
   }
   EXPECT_FALSE(isLoaded());

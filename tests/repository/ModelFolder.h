@@ -8,17 +8,19 @@
 #include <fstream>
 #include <functional>
 #include <sstream>
+#include <stdexcept>
 #include <string>
 
 #include "foundation/KYRException.h"
 #include "repository/storage/StoreModelFile.h"
+#include "tests/support/TemporaryName.h"
 
 /// The folder goes with the test.
 class ModelFolder : public testing::Test {
  protected:
   ModelFolder() {
-    char name[] = "/tmp/kyr-model-XXXXXX";
-    folder_ = mkdtemp(name);
+    folder_ = temporaryName("model");
+    if (mkdtemp(folder_.data()) == nullptr) throw std::runtime_error("no temporary folder");
   }
   ~ModelFolder() override { std::filesystem::remove_all(folder_); }
 

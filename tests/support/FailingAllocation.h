@@ -15,6 +15,8 @@ class FailingAllocation {
   bool hasFailed() const noexcept;
   /// How many allocations were asked for so far.
   static long getCount() noexcept;
+  /// How many blocks of memory are in use, of C++ and of C; always 0 where the functions of C do not fail.
+  static long getBlocks() noexcept;
   /// Whether the functions of C fail too.
   static bool reachesC() noexcept;
 };

@@ -6,7 +6,8 @@
 //                                       "all", those behind the numbered one (from 0) fail too
 //   KYR_FAULT_REPORT=path               a file of that path is made at the end when something has failed
 //
-// Counting begins with the main function: before it, there is nobody to tell.
+// Counting begins where the C library starts the program: with the static objects of the program itself. The
+// report is not made when the program ends before its main function.
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <stdlib.h>
@@ -20,27 +21,22 @@
 #include "tests/support/FailingAllocation.h"
 #include "tests/support/FailingCalls.h"
 
-extern "C" void __libc_free(void* memory);
-extern "C" void* __libc_memalign(std::size_t alignment, std::size_t size);
-
-// The program may bring an allocator; all memory must be of one.
-extern "C" KYR_EXPORT void free(void* memory) { __libc_free(memory); }
-
-extern "C" KYR_EXPORT void* aligned_alloc(std::size_t alignment, std::size_t size) {
-  return __libc_memalign(alignment, size);
-}
-
+// The program may bring an allocator; all memory must be of one, that of FailingAllocation.cpp.
 KYR_EXPORT void* operator new(std::size_t size) {
-  if (void* const memory = malloc(size)) return memory;
-  throw std::bad_alloc();
+  for (;;) {
+    if (void* const memory = malloc(size)) return memory;
+    const std::new_handler handler = std::get_new_handler();
+    if (handler == nullptr) throw std::bad_alloc();
+    handler();
+  }
 }
 KYR_EXPORT void* operator new[](std::size_t size) { return operator new(size); }
 KYR_EXPORT void* operator new(std::size_t size, const std::nothrow_t&) noexcept { return malloc(size); }
 KYR_EXPORT void* operator new[](std::size_t size, const std::nothrow_t&) noexcept { return malloc(size); }
-KYR_EXPORT void operator delete(void* memory) noexcept { __libc_free(memory); }
-KYR_EXPORT void operator delete[](void* memory) noexcept { __libc_free(memory); }
-KYR_EXPORT void operator delete(void* memory, std::size_t) noexcept { __libc_free(memory); }
-KYR_EXPORT void operator delete[](void* memory, std::size_t) noexcept { __libc_free(memory); }
+KYR_EXPORT void operator delete(void* memory) noexcept { free(memory); }
+KYR_EXPORT void operator delete[](void* memory) noexcept { free(memory); }
+KYR_EXPORT void operator delete(void* memory, std::size_t) noexcept { free(memory); }
+KYR_EXPORT void operator delete[](void* memory, std::size_t) noexcept { free(memory); }
 
 namespace {
 
@@ -89,19 +85,22 @@ class FaultOfEnvironment {
 
 using Main = int (*)(int, char**, char**);
 Main mainOfProgram = nullptr;
+std::optional<FaultOfEnvironment> fault;
 
 int mainWithFault(int count, char** arguments, char** environment) {
-  const FaultOfEnvironment fault;
-  return mainOfProgram(count, arguments, environment);
+  const int code = mainOfProgram(count, arguments, environment);
+  fault.reset();
+  return code;
 }
 
 }  // namespace
 
-// What the program's entry calls; it calls main.
+// What the program's entry calls; it makes the static objects and calls main.
 extern "C" KYR_EXPORT int __libc_start_main(Main main, int count, char** arguments, void (*init)(),
                                             void (*fini)(), void (*linkerFini)(), void* stackEnd) {
   using Start = int (*)(Main, int, char**, void (*)(), void (*)(), void (*)(), void*);
   const auto start = reinterpret_cast<Start>(dlsym(RTLD_NEXT, "__libc_start_main"));
   mainOfProgram = main;
+  fault.emplace();
   return start(mainWithFault, count, arguments, init, fini, linkerFini, stackEnd);
 }
