@@ -58,8 +58,8 @@ int KYROmgUml2XmiImportBridge::importModel(KYRStoreModel& model, KYROptionList& 
   importParsed(*parser);
   // What comes now, the saving above all, needs no UML object.
   if (MemoryAtEnd::isLeftToSystem()) {
-    MemoryAtEnd::give(std::move(parser));
-  } else if (parser->getObjects().getCount() >= worthAThread) {
+    MemoryAtEnd::give(std::move(parser), readCount);
+  } else if (readCount >= worthAThread) {
     parserRelease_.give(std::move(parser));
   }
   return 1;
@@ -69,7 +69,8 @@ void KYROmgUml2XmiImportBridge::importParsed(XMIParser& parser) {
   ImportTrace trace(KYRImportTrace::getCurrent(), parser);
   umlModel = parser.parse(file);
   storeModel->keepTexts(parser.getTexts());
-  stepLimit = stepsForAnyFile + stepsForOneElement * parser.getObjects().getCount();
+  readCount = parser.getObjects().getCount();
+  stepLimit = stepsForAnyFile + stepsForOneElement * readCount;
   loadDom();
   parser.dropReading();
   if (umlModel != nullptr) {

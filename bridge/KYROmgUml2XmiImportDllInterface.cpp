@@ -71,7 +71,7 @@ bool KYROmgUml2XmiImportDllInterface::run(const KYRString& originId, KYRFile& ou
   const int result = bridge.importModel(*storeModel, options, originId);
   setModelModificationTime(*storeModel, options);
   saveStoreModel(outputFile, *storeModel, log);
-  MemoryAtEnd::give(std::move(storeModel));
+  MemoryAtEnd::give(std::move(storeModel), bridge.readCount);
   return result != 0;
 }
 

@@ -4,6 +4,7 @@
 // makes one import and ends can spare itself that: the system takes all memory of a process at once.
 #pragma once
 
+#include <cstddef>
 #include <memory>
 
 #include "foundation/Export.h"
@@ -18,11 +19,15 @@ class KYR_EXPORT MemoryAtEnd {
   static void needMemory(bool isNeeded) noexcept;
   static bool isLeftToSystem() noexcept;
 
-  /// Destroys `object`, or leaves it in memory, where it stays reachable until the process ends.
+  /// Destroys `object`, which holds about `objectCount` others, or leaves it in memory, where it stays
+  /// reachable until the process ends.
   template <class T>
-  static void give(std::unique_ptr<T> object) noexcept {
-    if (isLeftToSystem() && keep(object.get())) static_cast<void>(object.release());
+  static void give(std::unique_ptr<T> object, std::size_t objectCount) noexcept {
+    const bool isLeft = isLeftToSystem() && objectCount >= worthLeaving;
+    if (isLeft && keep(object.get())) static_cast<void>(object.release());
   }
+  /// Fewer objects are freed at once, so that in most processes nothing is left for a search for leaks.
+  static constexpr std::size_t worthLeaving = 10000;
 
  private:
   // False when there is no memory to remember it.

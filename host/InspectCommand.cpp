@@ -142,7 +142,8 @@ void InspectCommand::report() {
     writeText(*parser, report, diagrams, import.get());
   }
   MemoryAtEnd::leaveToSystem(true);  // the command has nothing left to do
-  MemoryAtEnd::give(std::move(parser));
+  const std::size_t count = parser->getObjects().getCount();
+  MemoryAtEnd::give(std::move(parser), count);
 }
 
 void InspectCommand::writeText(const XMIParser& parser, const InspectReport& report,

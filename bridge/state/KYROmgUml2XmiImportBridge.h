@@ -271,6 +271,7 @@ class KYROmgUml2XmiImportBridge {
   KYRHashtable unplacedObjects;
   std::uint64_t stepCount = 0;
   std::uint64_t stepLimit = stepsForAnyFile;
+  unsigned int readCount = 0;  // UML objects of the file
   /// Enumeration literals looked at so far. Tests count them to show that each is once for each type.
   std::uint64_t literalCount = 0;
   /// Where derived types are found.

@@ -5,6 +5,8 @@
 
 namespace {
 
+constexpr std::size_t many = MemoryAtEnd::worthLeaving;
+
 class Counted {
  public:
   explicit Counted(int& destroyed) : destroyed_(destroyed) {}
@@ -28,7 +30,7 @@ class MemoryAtEndTest : public testing::Test {
 
 TEST_F(MemoryAtEndTest, WhatIsGivenIsDestroyedInAProcessThatGoesOn) {
   EXPECT_FALSE(MemoryAtEnd::isLeftToSystem());
-  MemoryAtEnd::give(std::make_unique<Counted>(destroyed_));
+  MemoryAtEnd::give(std::make_unique<Counted>(destroyed_), many);
   EXPECT_EQ(destroyed_, 1);
 }
 
@@ -36,7 +38,7 @@ TEST_F(MemoryAtEndTest, WhatIsGivenIsDestroyedInAProcessThatGoesOn) {
 TEST_F(MemoryAtEndTest, WhatIsGivenStaysInMemoryInAProcessThatEnds) {
   static int destroyed = 0;  // the object outlives the test
   MemoryAtEnd::leaveToSystem(true);
-  MemoryAtEnd::give(std::make_unique<Counted>(destroyed));
+  MemoryAtEnd::give(std::make_unique<Counted>(destroyed), many);
   EXPECT_EQ(destroyed, 0);
 }
 
@@ -44,15 +46,21 @@ TEST_F(MemoryAtEndTest, WhoeverNeedsMemoryIsHeardFirst) {
   MemoryAtEnd::needMemory(true);
   MemoryAtEnd::leaveToSystem(true);
   EXPECT_FALSE(MemoryAtEnd::isLeftToSystem());
-  MemoryAtEnd::give(std::make_unique<Counted>(destroyed_));
+  MemoryAtEnd::give(std::make_unique<Counted>(destroyed_), many);
+  EXPECT_EQ(destroyed_, 1);
+}
+
+TEST_F(MemoryAtEndTest, SmallThingsAreDestroyedAllTheSame) {
+  MemoryAtEnd::leaveToSystem(true);
+  MemoryAtEnd::give(std::make_unique<Counted>(destroyed_), many - 1);
   EXPECT_EQ(destroyed_, 1);
 }
 
 TEST_F(MemoryAtEndTest, NothingIsGivenForNull) {
   MemoryAtEnd::leaveToSystem(true);
-  MemoryAtEnd::give(std::unique_ptr<Counted>());
+  MemoryAtEnd::give(std::unique_ptr<Counted>(), many);
   MemoryAtEnd::leaveToSystem(false);
-  MemoryAtEnd::give(std::make_unique<Counted>(destroyed_));
+  MemoryAtEnd::give(std::make_unique<Counted>(destroyed_), many);
   EXPECT_EQ(destroyed_, 1);
 }
 
