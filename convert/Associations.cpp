@@ -1,7 +1,7 @@
 // Associations. An end that cannot be tied to a class is dropped, and an association left with fewer
 // than two ends is dropped with it, without a trace.
 #include "bridge/state/KYROmgUml2XmiImportBridge.h"
-#include "bridge/state/ShownText.h"
+#include "foundation/ShownText.h"
 #include "repository/bridgelib/KYRBridgeLib.h"
 #include "repository/model/KYRAssociation.h"
 #include "repository/model/KYRAssociationRole.h"

@@ -1,6 +1,6 @@
 // Classes and interfaces.
 #include "bridge/state/KYROmgUml2XmiImportBridge.h"
-#include "bridge/state/ShownText.h"
+#include "foundation/ShownText.h"
 #include "repository/model/KYRAttribute.h"
 #include "repository/model/KYRClass.h"
 #include "repository/model/KYRDesignPackage.h"

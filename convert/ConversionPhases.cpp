@@ -5,8 +5,8 @@
 // come after that, since a feature's type can be any class as well.
 #include "bridge/messages/KBI_UML2XMI.h"
 #include "bridge/state/KYROmgUml2XmiImportBridge.h"
-#include "bridge/state/ShownText.h"
 #include "foundation/KYRException.h"
+#include "foundation/ShownText.h"
 #include "repository/model/KYRDataPackage.h"
 #include "repository/model/KYRDesignPackage.h"
 #include "repository/model/KYRMetadataOrigin.h"

@@ -1,6 +1,6 @@
 // What every element brings along: documentation, comments and tagged values.
 #include "bridge/state/KYROmgUml2XmiImportBridge.h"
-#include "bridge/state/ShownText.h"
+#include "foundation/ShownText.h"
 #include "repository/bridgelib/KYRBridgeLib.h"
 #include "repository/model/KYRElement.h"
 #include "repository/model/KYRNote.h"

@@ -1,6 +1,6 @@
 // Attributes, operations and arguments. Types come later: each of them waits in `typedFeatures`.
 #include "bridge/state/KYROmgUml2XmiImportBridge.h"
-#include "bridge/state/ShownText.h"
+#include "foundation/ShownText.h"
 #include "repository/model/KYRArgument.h"
 #include "repository/model/KYRAttribute.h"
 #include "repository/model/KYROperation.h"

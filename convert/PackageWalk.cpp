@@ -5,7 +5,7 @@
 #include <unordered_set>
 
 #include "bridge/state/KYROmgUml2XmiImportBridge.h"
-#include "bridge/state/ShownText.h"
+#include "foundation/ShownText.h"
 #include "repository/model/KYRDesignPackage.h"
 #include "repository/model/KYRStoreModel.h"
 #include "uml/UMLCast.h"

@@ -1,7 +1,7 @@
 // Generalizations, realizations and dependencies. A relation whose ends are not both classes of the
 // right kind is dropped in silence; of several suppliers or clients the first counts.
 #include "bridge/state/KYROmgUml2XmiImportBridge.h"
-#include "bridge/state/ShownText.h"
+#include "foundation/ShownText.h"
 #include "repository/bridgelib/KYRBridgeLib.h"
 #include "repository/model/KYRClass.h"
 #include "repository/model/KYRDependency.h"

@@ -5,7 +5,7 @@
 // first pass of an enumeration can add values: from then on the type holds all names, and a further
 // pass has nothing to do for any literal. So it does not look at them.
 #include "bridge/state/KYROmgUml2XmiImportBridge.h"
-#include "bridge/state/ShownText.h"
+#include "foundation/ShownText.h"
 #include "repository/model/KYRDerivedType.h"
 #include "repository/model/KYRTypeValue.h"
 #include "uml/UMLCast.h"

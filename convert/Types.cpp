@@ -3,7 +3,7 @@
 //
 // The first UML type to use a name decides all about the derived type of that name, length and scale.
 #include "bridge/state/KYROmgUml2XmiImportBridge.h"
-#include "bridge/state/ShownText.h"
+#include "foundation/ShownText.h"
 #include "repository/bridgelib/KYRBridgeLib.h"
 #include "repository/datatypes/KYRDataTypeConverter.h"
 #include "repository/model/KYRArgument.h"

@@ -1,4 +1,5 @@
 // The scalar rows of the metamodel.
+#include "foundation/ShownText.h"
 #include "uml/UMLClasses.h"
 #include "uml/UMLKindPool.h"
 #include "uml/UMLMetamodel.h"
@@ -36,11 +37,7 @@ void set(void* owner, const KYRString& value, [[maybe_unused]] UMLKindPool& kind
   } else if constexpr (std::is_same_v<Value, int>) {
     field = value.getInt();
   } else if constexpr (std::is_same_v<Value, KYRString>) {
-    if (value.isBorrowed()) {
-      field.borrow(value);
-    } else {
-      field = value;
-    }
+    field = shownText(value);
   } else {
     // A missing attribute leaves the field null, which is not the same as the first literal.
     if (!value.isEmpty()) field = kinds.make<std::remove_pointer_t<Value>>(value);

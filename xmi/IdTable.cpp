@@ -3,6 +3,8 @@
 
 #include <utility>
 
+#include "foundation/ShownText.h"
+
 namespace {
 constexpr std::size_t firstSlots = 1024;
 }
@@ -23,12 +25,7 @@ IdTable::Number IdTable::intern(const KYRString& id, std::uint32_t hash) {
     grow();
     free = &findFree(hash);
   }
-  Entry& entry = entries_.emplace_back();
-  if (id.isBorrowed()) {
-    entry.text.borrow(id);
-  } else {
-    entry.text = id;
-  }
+  entries_.emplace_back().text = shownText(id);
   *free = {hash, static_cast<Number>(entries_.size() - 1)};
   return free->number;
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "bridge/messages/KBI_UML2XMI.h"
+#include "foundation/ShownText.h"
 #include "uml/UMLCast.h"
 #include "uml/UMLClasses.h"
 #include "uml/UMLMetamodel.h"
@@ -14,16 +15,8 @@
 
 namespace {
 
-// A text for an object to keep: the document's texts outlive the objects, so they are only shown.
-KYRString keep(const KYRString& text) {
-  if (!text.isBorrowed()) return text;
-  KYRString view;
-  view.borrow(text);
-  return view;
-}
-
 void keepIn(KYRString& field, const KYRString& text) {
-  if (!text.isEmpty()) field = keep(text);
+  if (!text.isEmpty()) field = shownText(text);
 }
 
 }  // namespace
@@ -104,7 +97,7 @@ void XMIParser::readPlan(const ClassPlan& plan, const KYRString& tag) {
 XMIParser::MadeObject XMIParser::makeObject(const ClassPlan& plan, const KYRString& id,
                                             const KYRString& name) {
   const UMLMetamodel::ClassRow& row = UMLMetamodel::classRows[static_cast<unsigned int>(plan.kind)];
-  return MadeObject(row.makeAt(objectMemory.allocate(row.size), keep(id), keep(name)));
+  return MadeObject(row.makeAt(objectMemory.allocate(row.size), shownText(id), shownText(name)));
 }
 
 void XMIParser::completeObject(const ClassPlan& plan, const KYRString& tag, MadeObject object,
