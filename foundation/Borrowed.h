@@ -128,8 +128,7 @@ class Borrowed {
   static T* typed(const void* entry) noexcept { return static_cast<T*>(const_cast<void*>(entry)); }
   static std::uintptr_t number(const void* pointed) noexcept {
     const auto bits = reinterpret_cast<std::uintptr_t>(pointed);
-    assert((bits & marks) ==
-           0);  // objects with a virtual table, and what was allocated, lie at such addresses
+    assert((bits & marks) == 0);  // what has a virtual table, or was allocated, lies at such addresses
     return bits;
   }
   // NOLINTNEXTLINE(performance-no-int-to-ptr): a marked pointer is a number, that is the idea
