@@ -1,8 +1,10 @@
 // KYRVector: an array of pointers, and from some size on an index of them on the side.
 //
-// The index is an open-addressing table of pointers with the number of times each stands in the list
-// (adding without `unique` may repeat one). It is built when a large list is first asked whether it
-// holds a pointer, and kept up to date from then on; lists that nobody asks never pay for one.
+// What is known of the pointers is made when a large list is first asked whether it holds one, and kept up
+// to date from then on; lists that nobody asks never pay for it. At first that is the runs of their
+// addresses, which serve while entries are new and come in the order of memory. The first question that they
+// cannot answer turns them into an open-addressing table of pointers with the number of times each stands in
+// the list (adding without `unique` may repeat one).
 #include "foundation/KYRVector.h"
 
 #include <algorithm>
@@ -10,14 +12,26 @@
 #include <cassert>
 #include <utility>
 
+#include "foundation/AddressRuns.h"
+
 class KYRVector::PointerIndex {
  public:
-  explicit PointerIndex(const std::vector<const void*>& entries)
-      : slots_(std::bit_ceil(entries.size() * 2)), shift_(shiftFor(slots_.size())) {
-    for (const void* entry : entries) insert(entry);
+  explicit PointerIndex(const std::vector<const void*>& entries) {
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+      if (!runs_.makeRoom(entries[i], i)) {
+        hash(entries);
+        return;
+      }
+      runs_.add(entries[i]);
+    }
   }
 
-  bool contains(const void* entry, std::uint64_t& probes) const noexcept {
+  bool contains(const std::vector<const void*>& entries, const void* entry, std::uint64_t& probes) {
+    if (slots_.empty()) {
+      if (runs_.excludes(entry, probes)) return false;
+      if (entries.back() == entry) return true;
+      hash(entries);
+    }
     for (std::size_t at = home(entry);; at = after(at)) {
       ++probes;
       if (slots_[at].count == 0) return false;
@@ -26,7 +40,11 @@ class KYRVector::PointerIndex {
   }
 
   /// Makes room for one more pointer. The next `insert` then allocates nothing.
-  void makeRoom() {
+  void makeRoom(const std::vector<const void*>& entries, const void* entry) {
+    if (slots_.empty()) {
+      if (runs_.makeRoom(entry, entries.size())) return;
+      hash(entries);
+    }
     if ((used_ + 1) * 2 <= slots_.size()) return;  // half full: a search takes two or three probes
     std::vector<Slot> larger(slots_.size() * 2);
     larger.swap(slots_);
@@ -37,13 +55,13 @@ class KYRVector::PointerIndex {
   }
 
   void insert(const void* entry) noexcept {
-    Slot& slot = slots_[find(entry)];
-    if (slot.count == 0) ++used_;
-    slot.entry = entry;
-    ++slot.count;
+    if (slots_.empty()) return runs_.add(entry);
+    enter(entry);
   }
 
-  void remove(const void* entry) noexcept {
+  /// One entry less, which still stands in `entries`.
+  void remove(const std::vector<const void*>& entries, const void* entry) {
+    if (slots_.empty()) hash(entries);
     std::size_t hole = find(entry);
     assert(slots_[hole].count != 0);
     if (--slots_[hole].count != 0) return;
@@ -64,6 +82,21 @@ class KYRVector::PointerIndex {
     std::uint32_t count = 0;  // 0: free
   };
 
+  // From runs to a table.
+  void hash(const std::vector<const void*>& entries) {
+    std::vector<Slot>(std::bit_ceil(entries.size() * 2)).swap(slots_);
+    shift_ = shiftFor(slots_.size());
+    for (const void* entry : entries) enter(entry);
+    runs_ = AddressRuns();
+  }
+
+  void enter(const void* entry) noexcept {
+    Slot& slot = slots_[find(entry)];
+    if (slot.count == 0) ++used_;
+    slot.entry = entry;
+    ++slot.count;
+  }
+
   // The top bits of the product spread addresses that lie at equal distances best.
   static int shiftFor(std::size_t slots) noexcept { return 64 - std::countr_zero(slots); }
   std::size_t home(const void* entry) const noexcept {
@@ -81,8 +114,9 @@ class KYRVector::PointerIndex {
     return at;
   }
 
-  std::vector<Slot> slots_;
-  int shift_;
+  AddressRuns runs_;         // while there is no table
+  std::vector<Slot> slots_;  // empty while the runs serve
+  int shift_ = 0;
   std::size_t used_ = 0;
 };
 
@@ -145,7 +179,7 @@ void KYRVector::deleteIterator(Iterator* iterator) const { delete iterator; }
 
 bool KYRVector::add(const void* object, bool unique, Iterator* position) {
   if (unique && contains(object, position)) return false;
-  if (index_) index_->makeRoom();
+  if (index_) index_->makeRoom(entries_, object);
   entries_.push_back(object);
   if (index_) index_->insert(object);
   return true;
@@ -154,7 +188,7 @@ bool KYRVector::add(const void* object, bool unique, Iterator* position) {
 bool KYRVector::contains(const void* object, Iterator* /*position*/) const {
   if (entries_.size() >= indexThreshold) {
     if (!index_) index_ = std::make_unique<PointerIndex>(entries_);
-    return index_->contains(object, comparisons_);
+    return index_->contains(entries_, object, comparisons_);
   }
   const auto found = std::find(entries_.begin(), entries_.end(), object);
   comparisons_ += static_cast<std::uint64_t>(found - entries_.begin()) + (found != entries_.end() ? 1 : 0);
@@ -175,6 +209,6 @@ const void* KYRVector::remove(Iterator* position) {
 
 void KYRVector::removeAt(unsigned int index) {
   if (index >= entries_.size()) return;
-  if (index_) index_->remove(entries_[index]);
+  if (index_) index_->remove(entries_, entries_[index]);
   entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(index));
 }

@@ -12,9 +12,9 @@
 
 // Read by jemalloc, if that is the allocator. One arena serves all threads, and it is there from the start:
 // the first allocation of a thread would make another, and jemalloc crashes when there is no memory left for
-// that.
+// that. What the document of the file leaves is used for the model, in pieces of any size.
 extern "C" {
-[[gnu::visibility("default")]] const char* malloc_conf = "narenas:1";  // NOLINT: the name is given
+[[gnu::visibility("default")]] const char* malloc_conf = "narenas:1,lg_extent_max_active_fit:20";  // NOLINT: the name is given
 }
 
 namespace {

@@ -11,6 +11,7 @@
 
 #include "foundation/Borrowed.h"
 #include "foundation/KYRString.h"
+#include "foundation/SeldomText.h"
 #include "uml/UMLForward.h"
 #include "uml/UMLLineage.h"
 #include "uml/UMLTaggedValue.h"
@@ -45,7 +46,7 @@ class UMLElement {
   virtual bool isKindOf(int other) const noexcept { return UMLLineage::isKindOf(kind, other); }
 
   KYRString id;                           // xmi:id
-  KYRString documentation;                // written by the tool extensions
+  SeldomText documentation;               // written by the tool extensions
   KYRString elementName;                  // the attribute "name", also of elements that are no named elements
   KYRObject* repositoryObject = nullptr;  // what the conversion made of it
   Borrowed<UMLTaggedValue, KYROrderedVector> taggedValues;  // the parser frees them before the element

@@ -56,7 +56,7 @@ class UMLProperty : public virtual UMLConnectableElement, public virtual UMLStru
   bool isReadOnly = false;
   bool isDerivedUnion = false;
   bool isComposite = false;
-  KYRString default_;
+  SeldomText default_;
   UMLAggregationKind* aggregation = nullptr;
   UMLClass* class_ = nullptr;
   Borrowed<UMLProperty, KYRVector> redefinedProperty;
@@ -79,7 +79,7 @@ class UMLOperation : public virtual UMLBehavioralFeature {
   bool isOrdered = false;
   bool isUnique = false;
   int lower = 0;
-  KYRString upper;
+  SeldomText upper;
   UMLClass* class_ = nullptr;
   Borrowed<UMLConstraint, KYRVector> precondition;
   Borrowed<UMLConstraint, KYRVector> postcondition;
@@ -103,7 +103,7 @@ class UMLParameter : public virtual UMLTypedElement, public virtual UMLMultiplic
   UML_CLASS_IDENTITY(UMLParameter, 14)
 
   UMLParameterDirectionKind* direction = nullptr;
-  KYRString default_;
+  SeldomText default_;
   UMLValueSpecification* defaultValue = nullptr;
   UMLOperation* operation = nullptr;
 };

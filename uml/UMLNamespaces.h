@@ -20,7 +20,7 @@ class UMLNamedElement : public virtual UMLElement {
 
   KYRString name;
   UMLVisibilityKind* visibility = nullptr;
-  KYRString qualifiedName;
+  SeldomText qualifiedName;
   Borrowed<UMLDependency, KYRVector> clientDependency;
   UMLNamespace* namespace_ = nullptr;
 
@@ -102,7 +102,7 @@ class UMLMultiplicityElement : public virtual UMLElement {
   bool isOrdered = false;
   bool isUnique = false;
   int lower = 0;
-  KYRString upper;
+  SeldomText upper;
   UMLValueSpecification* upperValue = nullptr;
   UMLValueSpecification* lowerValue = nullptr;
 };

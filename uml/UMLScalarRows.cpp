@@ -23,6 +23,9 @@ using OwnerOf = typename decltype(describe(Member))::OwnerType;
 template <auto Member>
 using ValueOf = typename decltype(describe(Member))::ValueType;
 
+template <class Value>
+constexpr bool isText = std::is_same_v<Value, KYRString> || std::is_same_v<Value, SeldomText>;
+
 template <auto Member>
 const ValueOf<Member>& read(const void* owner) {
   return static_cast<const OwnerOf<Member>*>(owner)->*Member;
@@ -36,7 +39,7 @@ void set(void* owner, const KYRString& value, [[maybe_unused]] UMLKindPool& kind
     field = isTrue(value);
   } else if constexpr (std::is_same_v<Value, int>) {
     field = value.getInt();
-  } else if constexpr (std::is_same_v<Value, KYRString>) {
+  } else if constexpr (isText<Value>) {
     field = shownText(value);
   } else {
     // A missing attribute leaves the field null, which is not the same as the first literal.
@@ -50,7 +53,7 @@ int getNumber(const void* owner) {
   if constexpr (std::is_pointer_v<Value>) {
     const auto* const kind = read<Member>(owner);
     return kind == nullptr ? -1 : kind->getValue();
-  } else if constexpr (std::is_same_v<Value, KYRString>) {
+  } else if constexpr (isText<Value>) {
     return 0;
   } else {
     return read<Member>(owner);
@@ -59,8 +62,8 @@ int getNumber(const void* owner) {
 
 template <auto Member>
 const KYRString* getText(const void* owner) {
-  if constexpr (std::is_same_v<ValueOf<Member>, KYRString>) {
-    return &read<Member>(owner);
+  if constexpr (isText<ValueOf<Member>>) {
+    return &static_cast<const KYRString&>(read<Member>(owner));
   } else {
     return nullptr;
   }
@@ -69,10 +72,10 @@ const KYRString* getText(const void* owner) {
 template <auto Member>
 constexpr ScalarRow scalar(const char* name) {
   using Value = ValueOf<Member>;
-  constexpr FieldType type = std::is_same_v<Value, bool>        ? FieldType::boolean
-                             : std::is_same_v<Value, int>       ? FieldType::integer
-                             : std::is_same_v<Value, KYRString> ? FieldType::text
-                                                                : FieldType::kind;
+  constexpr FieldType type = std::is_same_v<Value, bool>  ? FieldType::boolean
+                             : std::is_same_v<Value, int> ? FieldType::integer
+                             : isText<Value>              ? FieldType::text
+                                                          : FieldType::kind;
   return {name, OwnerOf<Member>::kind, type, false, &set<Member>, &getNumber<Member>, &getText<Member>};
 }
 

@@ -29,8 +29,8 @@ class KYR_EXPORT KYRLinks {
   static bool ownUniqueName(KYRCollection<T>& list, KYRObject* owner, T* entry, char separator) {
     KYRSdkCollection& collection = list.make(owner, true);
     if (entry->home_ == &collection) return false;
-    const KYRString name = collection.makeUniqueName(entry->getName(), separator);
-    if (name != entry->getName()) entry->setName(name);
+    const KYRString& name = entry->getName();
+    if (collection.isTaken(name)) entry->setName(collection.makeUniqueName(name, separator));
     return own(list, owner, entry);
   }
   /// Takes the entry out of its owner, if it has one.

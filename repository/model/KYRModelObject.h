@@ -6,7 +6,7 @@
 class KYR_EXPORT KYRModelObject : public KYRElement {
  public:
   /// The name in a data store; empty when it is not set. Written through `setPhysicalName`.
-  KYRString physicalName;
+  SeldomText physicalName;
   /// What shows the object on diagrams, in order of making; referred to.
   KYRCollection<KYRPresentationElement> presentationElements;
   ~KYRModelObject() override;

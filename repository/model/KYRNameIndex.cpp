@@ -10,6 +10,7 @@
 namespace {
 
 constexpr std::size_t smallestSlotCount = 32;
+constexpr std::uintptr_t groupMark = 1;
 
 std::uint32_t hashOf(std::string_view name) noexcept {
   const std::uint64_t hash = std::hash<std::string_view>()(name);
@@ -20,17 +21,34 @@ std::string_view nameOf(const KYRObject& object) noexcept { return object.getNam
 
 }  // namespace
 
+// NOLINTBEGIN(performance-no-int-to-ptr): a marked pointer is a number, that is the idea
+KYRObjectList* KYRNameIndex::Slot::getGroup() const noexcept {
+  return (holder & groupMark) == 0 ? nullptr : reinterpret_cast<KYRObjectList*>(holder & ~groupMark);
+}
+
+KYRObject* KYRNameIndex::Slot::getFirst() const noexcept {
+  const KYRObjectList* const group = getGroup();
+  return group != nullptr ? group->getAt(0) : reinterpret_cast<KYRObject*>(holder);
+}
+// NOLINTEND(performance-no-int-to-ptr)
+
+void KYRNameIndex::Slot::set(KYRObject* only) noexcept { holder = reinterpret_cast<std::uintptr_t>(only); }
+
+void KYRNameIndex::Slot::set(KYRObjectList* group) noexcept {
+  holder = reinterpret_cast<std::uintptr_t>(group) | groupMark;
+}
+
 KYRNameIndex::KYRNameIndex() noexcept = default;
 
 KYRNameIndex::~KYRNameIndex() {
-  for (const Slot& slot : slots_) delete slot.group;
+  for (const Slot& slot : slots_) delete slot.getGroup();
 }
 
 std::size_t KYRNameIndex::seek(std::string_view name, std::uint32_t hash) const noexcept {
   const std::size_t mask = slots_.size() - 1;
   std::size_t at = hash & mask;
   ++probes_;
-  while (slots_[at].first != nullptr && (slots_[at].hash != hash || nameOf(*slots_[at].first) != name)) {
+  while (!slots_[at].isFree() && (slots_[at].hash != hash || nameOf(*slots_[at].getFirst()) != name)) {
     ++probes_;
     at = (at + 1) & mask;
   }
@@ -38,16 +56,16 @@ std::size_t KYRNameIndex::seek(std::string_view name, std::uint32_t hash) const 
 }
 
 KYRObject* KYRNameIndex::find(std::string_view name) const noexcept {
-  return slots_.empty() ? nullptr : slots_[seek(name, hashOf(name))].first;
+  return slots_.empty() ? nullptr : slots_[seek(name, hashOf(name))].getFirst();
 }
 
 KYRObject* KYRNameIndex::find(std::string_view name, Condition condition, int argument) const {
   if (slots_.empty()) return nullptr;
   const Slot& slot = slots_[seek(name, hashOf(name))];
-  if (slot.group == nullptr) {
-    return slot.first != nullptr && condition(*slot.first, argument) ? slot.first : nullptr;
-  }
-  for (KYRObject* object : *slot.group) {
+  if (slot.isFree()) return nullptr;
+  const KYRObjectList* const group = slot.getGroup();
+  if (group == nullptr) return condition(*slot.getFirst(), argument) ? slot.getFirst() : nullptr;
+  for (KYRObject* object : *group) {
     ++probes_;
     if (object != nullptr && condition(*object, argument)) return object;
   }
@@ -61,34 +79,31 @@ void KYRNameIndex::add(KYRObject* object) {
   const std::string_view name = nameOf(*object);
   const std::uint32_t hash = hashOf(name);
   Slot& slot = slots_[seek(name, hash)];
-  if (slot.first == nullptr) {
+  if (slot.isFree()) {
     slot.hash = hash;
-    slot.first = object;
+    slot.set(object);
     ++count_;
     return;
   }
-  if (slot.group == nullptr) {
+  if (slot.getGroup() == nullptr) {
     auto group = std::make_unique<KYRObjectList>();
-    group->add(slot.first);
-    slot.group = group.release();
+    group->add(slot.getFirst());
+    slot.set(group.release());
   }
-  slot.group->add(object);
+  slot.getGroup()->add(object);
 }
 
 void KYRNameIndex::remove(const KYRObject* object) noexcept {
   if (slots_.empty()) return;
   const std::string_view name = nameOf(*object);
   const std::size_t at = seek(name, hashOf(name));
-  Slot& slot = slots_[at];
-  if (slot.group != nullptr) {
-    slot.group->remove(object);
-    if (slot.group->getCount() != 0) {
-      slot.first = slot.group->getAt(0);
-      return;
-    }
-    delete std::exchange(slot.group, nullptr);
+  KYRObjectList* const group = slots_[at].getGroup();
+  if (group != nullptr) {
+    group->remove(object);
+    if (group->getCount() != 0) return;
     free(at);
-  } else if (slot.first == object) {
+    delete group;
+  } else if (slots_[at].getFirst() == object) {
     free(at);
   }
 }
@@ -97,7 +112,7 @@ void KYRNameIndex::free(std::size_t hole) noexcept {
   const std::size_t mask = slots_.size() - 1;
   --count_;
   // Names behind the hole that were pushed past it move up, so that every chain stays unbroken.
-  for (std::size_t at = (hole + 1) & mask; slots_[at].first != nullptr; at = (at + 1) & mask) {
+  for (std::size_t at = (hole + 1) & mask; !slots_[at].isFree(); at = (at + 1) & mask) {
     const std::size_t wanted = slots_[at].hash & mask;
     if (((at - wanted) & mask) >= ((at - hole) & mask)) {
       slots_[hole] = slots_[at];
@@ -112,9 +127,9 @@ void KYRNameIndex::rehash(std::size_t slotCount) {
   std::swap(old, slots_);
   const std::size_t mask = slots_.size() - 1;
   for (const Slot& slot : old) {
-    if (slot.first == nullptr) continue;
+    if (slot.isFree()) continue;
     std::size_t at = slot.hash & mask;
-    while (slots_[at].first != nullptr) at = (at + 1) & mask;
+    while (!slots_[at].isFree()) at = (at + 1) & mask;
     slots_[at] = slot;
   }
 }

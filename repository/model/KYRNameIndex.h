@@ -34,10 +34,16 @@ class KYR_EXPORT KYRNameIndex {
   std::uint64_t getProbeCount() const noexcept { return probes_; }
 
  private:
+  // In `holder` the only object of the name, or the list of several with the lowest bit set.
   struct Slot {
     std::uint32_t hash = 0;
-    KYRObject* first = nullptr;      // null in a free slot
-    KYRObjectList* group = nullptr;  // null while one object has the name; `first` included
+    std::uintptr_t holder = 0;  // 0 in a free slot
+
+    bool isFree() const noexcept { return holder == 0; }
+    KYRObjectList* getGroup() const noexcept;  // null while one object has the name
+    KYRObject* getFirst() const noexcept;      // null in a free slot
+    void set(KYRObject* only) noexcept;
+    void set(KYRObjectList* group) noexcept;
   };
   std::size_t seek(std::string_view name, std::uint32_t hash) const noexcept;
   void rehash(std::size_t slotCount);

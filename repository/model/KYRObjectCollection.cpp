@@ -15,7 +15,7 @@ struct KYRObjectCollection::Names {
 };
 
 KYRObjectCollection::KYRObjectCollection(KYRObject* owner, bool isTold) noexcept
-    : owner_(owner), isTold_(isTold) {}
+    : isTold_(isTold), owner_(owner) {}
 
 KYRObjectCollection::~KYRObjectCollection() = default;
 
@@ -27,7 +27,7 @@ KYRObject* KYRObjectCollection::find(std::string_view name, Condition condition,
     return condition == nullptr ? index.find(name) : index.find(name, condition, argument);
   }
   for (KYRObject* object : list_) {
-    ++comparisons_;
+    list_.countComparison();
     if (object != nullptr && object->getName().view() == name &&
         (condition == nullptr || condition(*object, argument))) {
       return object;
@@ -42,7 +42,7 @@ bool KYRObjectCollection::isIndexed() const {
   if (!isTold_ || getCount() < KYRObjectList::indexThreshold) return false;
   auto index = std::make_unique<KYRNameIndex>();
   for (KYRObject* object : list_) {
-    ++comparisons_;
+    list_.countComparison();
     if (object != nullptr) index->add(object);
   }
   if (!names_) names_ = std::make_unique<Names>();
@@ -69,8 +69,11 @@ void KYRObjectCollection::clear() noexcept {
   names_.reset();
 }
 
+bool KYRObjectCollection::isTaken(const KYRString& name) const {
+  return !name.isEmpty() && find(name.view(), nullptr, 0) != nullptr;
+}
+
 KYRString KYRObjectCollection::makeUniqueName(const KYRString& name, char separator) const {
-  if (name.isEmpty() || find(name.view(), nullptr, 0) == nullptr) return name;
   if (!names_) names_ = std::make_unique<Names>();
   return names_->numbers.makeName(
       name, separator, [this](std::string_view candidate) { return find(candidate, nullptr, 0) != nullptr; });
@@ -96,7 +99,7 @@ void KYRObjectCollection::joinNames(KYRObject& object) noexcept {
   names_->index.reset();
 }
 
-std::uint64_t KYRObjectCollection::getComparisonCount() const noexcept {
-  return comparisons_ + list_.getComparisonCount() +
-         (names_ && names_->index ? names_->index->getProbeCount() : 0);
+std::uint32_t KYRObjectCollection::getComparisonCount() const noexcept {
+  return list_.getComparisonCount() +
+         (names_ && names_->index ? static_cast<std::uint32_t>(names_->index->getProbeCount()) : 0);
 }

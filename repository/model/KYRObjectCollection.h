@@ -25,8 +25,9 @@ class KYR_EXPORT KYRObjectCollection {
   KYRObject* get(const KYRString& name) const;
   /// The object that owns the entries; null for a list that only refers to them.
   KYRObject* getOwner() const noexcept { return owner_; }
-  /// Comparisons and index probes made so far. Tests count them to show that cost stays linear.
-  std::uint64_t getComparisonCount() const noexcept;
+  /// Comparisons and index probes made so far, from 0 again behind the highest number. Tests count them to
+  /// show that cost stays linear.
+  std::uint32_t getComparisonCount() const noexcept;
 
  protected:
   /// With `isTold` the list is told of every renaming of an entry, and may index names.
@@ -44,16 +45,17 @@ class KYR_EXPORT KYRObjectCollection {
   void remove(const KYRObject* object) noexcept;
   void clear() noexcept;
   KYRObject* find(std::string_view name, Condition condition, int argument) const;
-  /// `name` when no entry bears it or it is empty; else name, separator and the smallest number from
-  /// 1 that is free.
+  /// Whether an entry bears the name. The empty name is never taken.
+  bool isTaken(const KYRString& name) const;
+  /// Name, separator and the smallest number from 1 that is free.
   KYRString makeUniqueName(const KYRString& name, char separator) const;
   void leaveNames(const KYRObject& object) noexcept;
   void joinNames(KYRObject& object) noexcept;
   bool isIndexed() const;
 
-  KYRObjectList list_;
+  // A model has as many collections as objects: the flag stands in what the list leaves of its last word.
+  [[no_unique_address]] KYRObjectList list_;
+  bool isTold_;
   mutable std::unique_ptr<Names> names_;
   KYRObject* owner_;
-  bool isTold_;
-  mutable std::uint64_t comparisons_ = 0;
 };

@@ -51,8 +51,8 @@ void KYRObjectList::clear() noexcept {
   gaps_ = 0;
 }
 
-std::uint64_t KYRObjectList::getComparisonCount() const noexcept {
-  return comparisons_ + (positions_ ? positions_->getProbeCount() : 0);
+std::uint32_t KYRObjectList::getComparisonCount() const noexcept {
+  return comparisons_ + (positions_ ? static_cast<std::uint32_t>(positions_->getProbeCount()) : 0);
 }
 
 std::uint32_t KYRObjectList::find(const KYRObject* object) const noexcept {

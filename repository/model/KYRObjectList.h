@@ -34,7 +34,10 @@ class KYR_EXPORT KYRObjectList {
   /// False when it is not there. Needs no memory: without it only speed is lost.
   bool remove(const KYRObject* object) noexcept;
   void clear() noexcept;
-  std::uint64_t getComparisonCount() const noexcept;
+  /// Comparisons and index probes made so far, from 0 again behind the highest number.
+  std::uint32_t getComparisonCount() const noexcept;
+  /// One that was made by whoever walks the entries.
+  void countComparison() const noexcept { ++comparisons_; }
 
   /// Walks the entries where they stand, gaps as null.
   std::vector<KYRObject*>::const_iterator begin() const noexcept { return entries_.begin() + first_; }
@@ -55,5 +58,5 @@ class KYR_EXPORT KYRObjectList {
   mutable std::unique_ptr<KYRPointerIndex> positions_;
   mutable std::uint32_t first_ = 0;  // entries before it are gone
   mutable std::uint32_t gaps_ = 0;   // behind first_
-  mutable std::uint64_t comparisons_ = 0;
+  mutable std::uint32_t comparisons_ = 0;
 };

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <numeric>
 #include <random>
 #include <utility>
 #include <vector>
@@ -142,6 +143,70 @@ TEST_F(KYRVectorTest, AStackOfUniqueEntriesStaysLinear) {
     while (!list.isEmpty()) list.removeAt(list.getCount() - 1);
   }
   EXPECT_LT(list.getComparisonCount(), 20 * 2000 * 8U);
+}
+
+TEST_F(KYRVectorTest, EntriesInTheOrderOfMemoryNeedNoTable) {
+  constexpr std::size_t count = 50000;
+  KYRVector list(int{count});
+  const AllocationProbe probe;
+  for (std::size_t i = 0; i < count; ++i) ASSERT_TRUE(list.add(object(i), true, nullptr));
+  EXPECT_LE(probe.getCount(), 2U);
+  EXPECT_LT(list.getComparisonCount(), 2 * count);
+}
+
+// Blocks of memory are filled from their beginning and lie in any order.
+TEST_F(KYRVectorTest, EntriesOfBlocksInAnyOrderNeedNoTable) {
+  constexpr std::size_t blockSize = std::size_t{128} * 1024;
+  constexpr std::size_t blockEntries = 500;
+  const std::vector<char> memory(50 * blockSize);
+  std::vector<std::size_t> blocks(50);
+  std::iota(blocks.begin(), blocks.end(), 0U);
+  std::shuffle(blocks.begin(), blocks.end(), std::mt19937(7));
+  KYRVector list(int{50 * blockEntries});
+  const AllocationProbe probe;
+  for (std::size_t block : blocks) {
+    for (std::size_t i = 0; i < blockEntries; ++i) {
+      ASSERT_TRUE(list.add(&memory[block * blockSize + i * 8], true, nullptr));
+    }
+  }
+  EXPECT_LE(probe.getCount(), 7U);  // room for the fifty runs, doubled six times
+  for (std::size_t block : blocks) {
+    for (std::size_t i = 0; i < 2 * blockEntries; ++i) {
+      ASSERT_EQ(list.contains(&memory[block * blockSize + i * 8], nullptr), i < blockEntries);
+    }
+  }
+}
+
+TEST_F(KYRVectorTest, TheLastEntryIsKnownWithoutATable) {
+  KYRVector list(1000);
+  const AllocationProbe probe;
+  for (std::size_t i = 0; i < 1000; ++i) {
+    ASSERT_TRUE(list.add(object(i), true, nullptr));
+    ASSERT_FALSE(list.add(object(i), true, nullptr));
+  }
+  EXPECT_LE(probe.getCount(), 2U);
+}
+
+TEST_F(KYRVectorTest, OrdersOfManyKindsAreToldRight) {
+  constexpr std::size_t count = 3000;
+  std::mt19937 random(3);
+  const auto far = [](std::size_t i) { return i * 97 % count * 30; };  // gaps on the way, wide ones back
+  for (int kind = 0; kind < 5; ++kind) {
+    KYRVector list;
+    std::vector<bool> isIn(objects_.size());
+    for (std::size_t i = 0; i < count; ++i) {
+      const std::size_t at = kind == 0   ? count - i
+                             : kind == 1 ? far(i)
+                             : kind == 2 ? (i % 2 == 0 ? i : 90000 - i)
+                             : kind == 3 ? random() % count
+                                         : i / 40 * 1000 + i % 40;
+      ASSERT_EQ(list.add(object(at), true, nullptr), !isIn[at]) << kind << ' ' << i;
+      isIn[at] = true;
+    }
+    for (std::size_t i = 0; i < objects_.size(); ++i) {
+      ASSERT_EQ(list.contains(object(i), nullptr), isIn[i]) << kind << ' ' << i;
+    }
+  }
 }
 
 TEST_F(KYRVectorTest, AListThatIsNeverAskedKeepsNoIndex) {
