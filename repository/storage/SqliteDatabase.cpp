@@ -72,10 +72,6 @@ SqliteStatement::SqliteStatement(SqliteStatement&& other) noexcept
 
 SqliteStatement::~SqliteStatement() { sqlite3_finalize(handle_); }
 
-void SqliteStatement::bindNull(int parameter) {
-  if (sqlite3_bind_null(handle_, parameter) != SQLITE_OK) database_->fail();
-}
-
 void SqliteStatement::bind(int parameter, std::int64_t value) {
   if (sqlite3_bind_int64(handle_, parameter, value) != SQLITE_OK) database_->fail();
 }

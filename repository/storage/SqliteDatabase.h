@@ -46,7 +46,6 @@ class KYR_EXPORT SqliteStatement {
   SqliteStatement& operator=(const SqliteStatement&) = delete;
   ~SqliteStatement();
 
-  void bindNull(int parameter);
   void bind(int parameter, std::int64_t value);
   /// Borrows the text until the parameter is bound anew, or copies it.
   void bind(int parameter, std::string_view value, bool isCopied);
