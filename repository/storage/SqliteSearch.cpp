@@ -24,8 +24,12 @@ constexpr const char* removeSearched =
 
 constexpr std::size_t searchedWidth = 4;  // id, kind, name, description
 
-// FTS5 puts what it has gathered into the file before each statement of many rows, so they are many.
-constexpr std::size_t mostRows = 32768;
+// FTS5 puts what it has gathered into its tables before each statement of many rows, so they are many.
+constexpr std::size_t mostRows = 8192;
+
+std::string insertSearched() {
+  return "INSERT INTO search(rowid, kind, name, description) " + SqliteRowFeed::select(searchedWidth);
+}
 
 }  // namespace
 
@@ -38,11 +42,8 @@ void SqliteSearch::remove(SqliteDatabase& database, std::int64_t first, std::int
   statement.step();
 }
 
-SqliteSearch::SqliteSearch(SqliteDatabase& database, SqliteRowFeed& feed)
-    : feed_(feed),
-      rows_(searchedWidth),
-      insert_(database,
-              "INSERT INTO search(rowid, kind, name, description) " + SqliteRowFeed::select(searchedWidth)) {
+SqliteSearch::SqliteSearch(SqliteDatabase& database, SqliteRowFeed& feed, bool isEmpty)
+    : database_(database), feed_(feed), isEmpty_(isEmpty), rows_(searchedWidth) {
   for (const SqlTable& table : SqlSchema::get().getTables()) columns_.push_back(columnsOf(table));
 }
 
@@ -69,11 +70,39 @@ void SqliteSearch::add(const SqlTable& table, const SqliteCell* row) {
   if ((name.isNull() && description.isNull()) || kind.getText() == passedOver) return;
   const SqliteCell searched[searchedWidth] = {row[0], kind, name, description};
   rows_.add(searched);
-  if (rows_.getCount() == mostRows) load();
+  if (rows_.getCount() == mostRows) handOn();
+}
+
+// Small models need no thread: what there is at the end goes straight in.
+void SqliteSearch::handOn() {
+  if (isEmpty_ && !aside_) {
+    aside_.emplace(database_.getShownPath(), createSearch, insertSearched(), searchedWidth);
+  }
+  if (aside_) {
+    aside_->add(rows_);
+  } else {
+    load();
+  }
+  rows_.clear();
 }
 
 void SqliteSearch::load() {
-  if (rows_.getCount() == 0) return;
-  feed_.run(insert_, rows_);
+  SqliteStatement insert(database_, insertSearched());
+  feed_.run(insert, rows_);
+}
+
+void SqliteSearch::flush() {
+  handOn();
+  if (aside_) aside_->wait();
+}
+
+void SqliteSearch::finish() {
+  if (aside_) {
+    aside_->add(rows_);
+    aside_->copyTo(database_);
+  } else {
+    load();
+  }
   rows_.clear();
+  aside_.reset();
 }

@@ -10,6 +10,7 @@
 
 #include "repository/storage/SqlSchema.h"
 #include "repository/storage/SqliteRowFeed.h"
+#include "repository/storage/SqliteSearchAside.h"
 
 class SqliteSearch {
  public:
@@ -18,13 +19,16 @@ class SqliteSearch {
   /// Takes out the objects with the ids from `first` to `last`, whose rows are still in their tables.
   static void remove(SqliteDatabase& database, std::int64_t first, std::int64_t last);
 
-  /// The database has the table already. Database and feed must outlive the search.
-  SqliteSearch(SqliteDatabase& database, SqliteRowFeed& feed);
+  /// The database has the table already; `isEmpty` tells whether it is empty. Database and feed must outlive
+  /// the search.
+  SqliteSearch(SqliteDatabase& database, SqliteRowFeed& feed, bool isEmpty);
 
-  /// Notes what is searched of a row. Ids come in ascending order; texts are borrowed until `load`.
+  /// Notes what is searched of a row. Ids come in ascending order. Texts are borrowed until `flush`.
   void add(const SqlTable& table, const SqliteCell* row);
-  /// Hands what was noted to the database.
-  void load();
+  /// Returns when no text is borrowed any more.
+  void flush();
+  /// Puts what was noted into the table, unless that has been done already. To be called once, at the end.
+  void finish();
 
  private:
   // Where a table has what is searched; `none` where it has no such column.
@@ -36,9 +40,13 @@ class SqliteSearch {
     std::size_t noteText;
   };
   static Columns columnsOf(const SqlTable& table);
+  void handOn();
+  void load();
 
+  SqliteDatabase& database_;
   SqliteRowFeed& feed_;
+  const bool isEmpty_;
   std::vector<Columns> columns_;  // by the index of the table
   SqliteRowBlock rows_;
-  SqliteStatement insert_;
+  std::optional<SqliteSearchAside> aside_;  // from the first full block on
 };

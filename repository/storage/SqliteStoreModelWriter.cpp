@@ -60,7 +60,7 @@ void SqliteStoreModelWriter::beginDocument(const KYRStoreModel& model) {
     widest = std::max(widest, table.columns.size());
   }
   feed_.emplace(database_, widest);
-  search_.emplace(database_, *feed_);
+  search_.emplace(database_, *feed_, isNew_);
 }
 
 void SqliteStoreModelWriter::createSchema() {
@@ -102,9 +102,10 @@ void SqliteStoreModelWriter::removeFormer(const KYRStoreModel& model) {
 
 void SqliteStoreModelWriter::endDocument() {
   SqlRowWriter::endDocument();
-  loadAll();
+  for (const SqlTable& table : getSchema().getTables()) load(table);
   runOn(database_, "UPDATE models SET last_id = ?2 WHERE id = ?1", firstId_, getLastId());
   if (isNew_) database_.run(getSchema().createIndexes());
+  search_->finish();
 }
 
 // While the row of an object begins, no other one is open.
@@ -143,7 +144,7 @@ void SqliteStoreModelWriter::load(const SqlTable& table) {
 
 void SqliteStoreModelWriter::loadAll() {
   for (const SqlTable& table : getSchema().getTables()) load(table);
-  search_->load();
+  search_->flush();
   keptTexts_.clear();
   keptSize_ = 0;
 }
