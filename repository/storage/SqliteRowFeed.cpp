@@ -17,12 +17,14 @@ struct Table {
 
 struct Cursor {
   sqlite3_vtab_cursor base;
+  const SqliteCell* row;
+  std::size_t width;
   std::size_t at;
+  std::size_t count;
 };
 
 Table& tableOf(sqlite3_vtab* table) { return *reinterpret_cast<Table*>(table); }
 Cursor& cursorOf(sqlite3_vtab_cursor* cursor) { return *reinterpret_cast<Cursor*>(cursor); }
-const SqliteRowBlock& blockOf(sqlite3_vtab_cursor* cursor) { return **tableOf(cursor->pVtab).block; }
 
 int chooseWay(sqlite3_vtab*, sqlite3_index_info*) { return SQLITE_OK; }
 
@@ -44,19 +46,26 @@ int close(sqlite3_vtab_cursor* cursor) {
 }
 
 int rewind(sqlite3_vtab_cursor* cursor, int, const char*, int, sqlite3_value**) {
-  cursorOf(cursor).at = 0;
+  const SqliteRowBlock& block = **tableOf(cursor->pVtab).block;
+  Cursor& place = cursorOf(cursor);
+  place.row = block.first();
+  place.width = block.getWidth();
+  place.at = 0;
+  place.count = block.getCount();
   return SQLITE_OK;
 }
 
 int next(sqlite3_vtab_cursor* cursor) {
-  ++cursorOf(cursor).at;
+  Cursor& place = cursorOf(cursor);
+  place.row += place.width;
+  ++place.at;
   return SQLITE_OK;
 }
 
-int isAtEnd(sqlite3_vtab_cursor* cursor) { return cursorOf(cursor).at < blockOf(cursor).getCount() ? 0 : 1; }
+int isAtEnd(sqlite3_vtab_cursor* cursor) { return cursorOf(cursor).at < cursorOf(cursor).count ? 0 : 1; }
 
 int giveCell(sqlite3_vtab_cursor* cursor, sqlite3_context* result, int column) {
-  const SqliteCell& cell = blockOf(cursor).row(cursorOf(cursor).at)[column];
+  const SqliteCell& cell = cursorOf(cursor).row[column];
   if (cell.isNumber()) {
     sqlite3_result_int64(result, cell.getNumber());
   } else if (!cell.isNull()) {

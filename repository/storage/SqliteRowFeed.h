@@ -49,16 +49,23 @@ class SqliteRowBlock {
   explicit SqliteRowBlock(std::size_t width) noexcept : width_(width) {}
 
   std::size_t getWidth() const noexcept { return width_; }
-  std::size_t getCount() const noexcept { return cells_.size() / width_; }
+  std::size_t getCount() const noexcept { return count_; }
   /// The cells of the row that was added last, which are `getWidth()` many.
   SqliteCell* last() noexcept { return cells_.data() + cells_.size() - width_; }
-  const SqliteCell* row(std::size_t at) const noexcept { return cells_.data() + at * width_; }
+  const SqliteCell* first() const noexcept { return cells_.data(); }
   /// `cells` are `getWidth()` many.
-  void add(const SqliteCell* cells) { cells_.insert(cells_.end(), cells, cells + width_); }
-  void clear() noexcept { cells_.clear(); }
+  void add(const SqliteCell* cells) {
+    cells_.insert(cells_.end(), cells, cells + width_);
+    ++count_;
+  }
+  void clear() noexcept {
+    cells_.clear();
+    count_ = 0;
+  }
 
  private:
   std::size_t width_;
+  std::size_t count_ = 0;
   std::vector<SqliteCell> cells_;
 };
 

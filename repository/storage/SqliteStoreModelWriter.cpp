@@ -3,6 +3,8 @@
 // than finding the place of each entry.
 #include "repository/storage/SqliteStoreModelWriter.h"
 
+#include <algorithm>
+
 #include "repository/KYRRepositoryMessages.h"
 #include "repository/model/KYRMetadataOrigin.h"
 
