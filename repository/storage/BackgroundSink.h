@@ -2,20 +2,16 @@
 // wait until the system has taken the last one.
 #pragma once
 
-#include <condition_variable>
-#include <cstddef>
-#include <exception>
-#include <mutex>
 #include <string>
-#include <thread>
 
+#include "repository/storage/BackgroundQueue.h"
 #include "repository/storage/BlockOutput.h"
 
 class KYR_EXPORT BackgroundSink : public BlockSink {
  public:
-  /// `target`, which is written to by one thread at a time, must outlive the sink.
-  explicit BackgroundSink(BlockSink& target) : target_(target) {}
-  /// Blocks that `finish` has not waited for may be lost.
+  /// `target`, which is written to by one thread at a time, must outlive the sink. Blocks that `finish` has
+  /// not waited for may be lost.
+  explicit BackgroundSink(BlockSink& target);
   ~BackgroundSink() override;
   /// Copies the block and returns; waits when eight others wait already. Raises what an earlier block raised.
   void write(std::string_view block) override;
@@ -23,22 +19,7 @@ class KYR_EXPORT BackgroundSink : public BlockSink {
   void finish();
 
  private:
-  static constexpr std::size_t blockCount =
-      8;  // enough to go on for a while when the disk holds the thread up
-
-  void start();
-  void run() noexcept;
-  void stop() noexcept;
-
   BlockSink& target_;
-  std::thread thread_;  // started by the second block: small outputs need none
-  std::mutex mutex_;    // guards what follows
-  std::condition_variable changed_;
-  std::string blocks_[blockCount];  // a ring
-  std::size_t given_ = 0;
-  std::size_t taken_ = 0;
-  bool isFinished_ = false;
-  std::exception_ptr failure_;
   bool isFirst_ = true;
-  bool isAlone_ = false;  // the system had no thread to give
+  BackgroundQueue<std::string> blocks_;
 };

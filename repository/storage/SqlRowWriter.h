@@ -44,7 +44,7 @@ class KYR_EXPORT SqlRowWriter : public StoreModelWriter {
   virtual void beginRow(const SqlTable& table) = 0;
   /// References and flags are numbers too.
   virtual void putNumber(const SqlTable& table, std::size_t column, std::int64_t value) = 0;
-  /// Valid UTF-8 without zero characters. It stays where it is until the row ends unless `isPassing`.
+  /// Valid UTF-8 without zero characters. It stays where it is until the document ends unless `isPassing`.
   virtual void putText(const SqlTable& table, std::size_t column, std::string_view value, bool isPassing) = 0;
   virtual void endRow(const SqlTable& table) = 0;
 

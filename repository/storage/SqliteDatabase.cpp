@@ -24,9 +24,14 @@ int systemError(sqlite3* database) noexcept {
 }  // namespace
 
 SqliteDatabase::SqliteDatabase(const std::string& path, const KYRString& shownPath) : shownPath_(shownPath) {
-  const std::string place = SqliteWaiting::placeOf(path);
+  open(SqliteWaiting::placeOf(path).c_str());
+}
+
+SqliteDatabase::SqliteDatabase(const KYRString& shownPath) : shownPath_(shownPath) { open(":memory:"); }
+
+void SqliteDatabase::open(const char* place) {
   constexpr int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX;
-  if (sqlite3_open_v2(place.c_str(), &handle_, flags, nullptr) == SQLITE_OK) return;
+  if (sqlite3_open_v2(place, &handle_, flags, nullptr) == SQLITE_OK) return;
   const std::string reason = handle_ != nullptr ? sqlite3_errmsg(handle_) : sqlite3_errstr(SQLITE_NOMEM);
   sqlite3_close_v2(handle_);
   KYRRepositoryMessages::CANNOT_SAVE.throwException(shownPath_, KYRString(std::string_view(reason)));
@@ -72,10 +77,6 @@ SqliteStatement::SqliteStatement(SqliteStatement&& other) noexcept
 
 SqliteStatement::~SqliteStatement() { sqlite3_finalize(handle_); }
 
-void SqliteStatement::bindNull(int parameter) {
-  if (sqlite3_bind_null(handle_, parameter) != SQLITE_OK) database_->fail();
-}
-
 void SqliteStatement::bind(int parameter, std::int64_t value) {
   if (sqlite3_bind_int64(handle_, parameter, value) != SQLITE_OK) database_->fail();
 }
@@ -89,6 +90,14 @@ void SqliteStatement::bind(int parameter, std::string_view value, bool isCopied)
       isCopied ? reinterpret_cast<sqlite3_destructor_type>(-1) : nullptr;
   const int result = sqlite3_bind_text64(handle_, parameter, text, value.size(), destructor, SQLITE_UTF8);
   if (result != SQLITE_OK) database_->fail();
+}
+
+void SqliteStatement::bindRow(const SqliteStatement& other) {
+  const int count = sqlite3_column_count(other.handle_);
+  for (int i = 0; i < count; ++i) {
+    const int result = sqlite3_bind_value(handle_, i + 1, sqlite3_column_value(other.handle_, i));
+    if (result != SQLITE_OK) database_->fail();
+  }
 }
 
 bool SqliteStatement::step() {

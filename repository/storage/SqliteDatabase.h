@@ -15,6 +15,8 @@ class KYR_EXPORT SqliteDatabase {
  public:
   /// Opens the file, and makes it when it is missing. `shownPath` is what messages call it.
   SqliteDatabase(const std::string& path, const KYRString& shownPath);
+  /// Makes a database in memory, for what is to go into that file.
+  explicit SqliteDatabase(const KYRString& shownPath);
   SqliteDatabase(const SqliteDatabase&) = delete;
   SqliteDatabase& operator=(const SqliteDatabase&) = delete;
   /// Takes back what was not committed.
@@ -32,7 +34,12 @@ class KYR_EXPORT SqliteDatabase {
   sqlite3* getHandle() const noexcept { return handle_; }
   [[noreturn]] void fail() const;
 
+  /// What messages call the file.
+  const KYRString& getShownPath() const noexcept { return shownPath_; }
+
  private:
+  void open(const char* place);
+
   KYRString shownPath_;
   sqlite3* handle_ = nullptr;
 };
@@ -46,10 +53,11 @@ class KYR_EXPORT SqliteStatement {
   SqliteStatement& operator=(const SqliteStatement&) = delete;
   ~SqliteStatement();
 
-  void bindNull(int parameter);
   void bind(int parameter, std::int64_t value);
   /// Borrows the text until the parameter is bound anew, or copies it.
   void bind(int parameter, std::string_view value, bool isCopied);
+  /// Copies the row at which the other statement stands, from the first parameter on.
+  void bindRow(const SqliteStatement& other);
   /// Runs the statement up to its next row; false at the end.
   bool step();
   /// Makes it ready for another run. Parameters keep their values.

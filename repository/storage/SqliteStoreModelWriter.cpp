@@ -3,6 +3,8 @@
 // than finding the place of each entry.
 #include "repository/storage/SqliteStoreModelWriter.h"
 
+#include <algorithm>
+
 #include "repository/KYRRepositoryMessages.h"
 #include "repository/model/KYRMetadataOrigin.h"
 
@@ -11,25 +13,21 @@ namespace {
 constexpr const char* applicationIdQuery = "PRAGMA application_id";
 constexpr const char* versionQuery = "PRAGMA user_version";
 
-// The words are looked for without case and without the marks on letters. Lengths of texts are not
-// kept: the ranking finds them out, for the few rows that a search meets.
-constexpr const char* createSearch =
-    "CREATE VIRTUAL TABLE search USING fts5(kind UNINDEXED, name, description, content='objects', "
-    "content_rowid='id',"
-    " columnsize=0, tokenize='unicode61 remove_diacritics 2')";
+// Blocks stay in the caches of the processor, and are large enough for the work on a whole one not to count.
+constexpr std::size_t rowsOfBlock = 256;
 
-// What the search covers, of the objects from ?1 to ?2. A class type bears the name of its class.
-constexpr const char* searchedObjects =
-    "id, kind, name, description FROM objects WHERE id BETWEEN ?1 AND ?2 AND kind <> 'class type'"
-    " AND (name IS NOT NULL OR description IS NOT NULL)";
+// Texts that are kept for rows, until the rows are loaded.
+constexpr std::size_t mostKept = std::size_t{1} << 20;
 
+// A row that is refused ends the whole transaction; SQLite need not be able to take back the block alone.
 std::string insertInto(const SqlTable& table) {
-  std::string sql = "INSERT INTO " + std::string(table.name) + " VALUES (?";
-  for (std::size_t i = 1; i < table.columns.size(); ++i) sql += ",?";
-  return sql + ")";
+  return "INSERT OR FAIL INTO " + std::string(table.name) + ' ' + SqliteRowFeed::select(table.columns.size());
 }
 
-int parameterOf(std::size_t column) { return static_cast<int>(column + 1); }
+SqliteCell defaultOf(const SqlColumn& column) {
+  const bool isNumber = column.kind == SqlColumn::Kind::number || column.kind == SqlColumn::Kind::flag;
+  return isNumber ? SqliteCell(std::int64_t{0}) : SqliteCell();
+}
 
 void runOn(SqliteDatabase& database, const std::string& statement, std::int64_t first, std::int64_t last) {
   SqliteStatement prepared(database, statement);
@@ -57,13 +55,14 @@ void SqliteStoreModelWriter::beginDocument(const KYRStoreModel& model) {
     removeFormer(model);
   }
   setFirstId(firstId_);
+  std::size_t widest = 0;
   for (const SqlTable& table : getSchema().getTables()) {
-    Insert& insert = inserts_.emplace_back(Insert{SqliteStatement(database_, insertInto(table)), {}});
-    insert.parameters.resize(table.columns.size());
-    for (std::size_t column = 0; column < table.columns.size(); ++column) {
-      bindDefault(insert.statement, table, column);
-    }
+    Pending& pending = pending_.emplace_back(Pending{{}, SqliteRowBlock(table.columns.size()), {}});
+    for (const SqlColumn& column : table.columns) pending.defaults.push_back(defaultOf(column));
+    widest = std::max(widest, table.columns.size());
   }
+  feed_.emplace(database_, widest);
+  search_.emplace(database_, *feed_, isNew_);
 }
 
 void SqliteStoreModelWriter::createSchema() {
@@ -71,7 +70,7 @@ void SqliteStoreModelWriter::createSchema() {
   database_.run("PRAGMA user_version = " + std::to_string(SqlSchema::version));
   database_.run(getSchema().createTables(SqlSchema::Dialect::sqlite));
   database_.run(getSchema().createViews());
-  database_.run(createSearch);
+  SqliteSearch::create(database_);
 }
 
 void SqliteStoreModelWriter::refuseOthers() const {
@@ -94,10 +93,7 @@ void SqliteStoreModelWriter::removeFormer(const KYRStoreModel& model) {
   const std::int64_t first = find.getNumber(0);
   const std::int64_t last = find.getNumber(1);
   find.reset();
-  runOn(database_,
-        std::string("INSERT INTO search(search, rowid, kind, name, description) SELECT 'delete', ") +
-            searchedObjects,
-        first, last);
+  SqliteSearch::remove(database_, first, last);
   for (const SqlTable& table : getSchema().getTables()) {
     runOn(database_,
           "DELETE FROM " + std::string(table.name) + " WHERE " + table.columns.front().name +
@@ -108,55 +104,49 @@ void SqliteStoreModelWriter::removeFormer(const KYRStoreModel& model) {
 
 void SqliteStoreModelWriter::endDocument() {
   SqlRowWriter::endDocument();
-  inserts_.clear();
+  for (const SqlTable& table : getSchema().getTables()) load(table);
   runOn(database_, "UPDATE models SET last_id = ?2 WHERE id = ?1", firstId_, getLastId());
   if (isNew_) database_.run(getSchema().createIndexes());
-  fillSearch();
+  search_->finish();
 }
 
-void SqliteStoreModelWriter::fillSearch() {
-  runOn(database_,
-        std::string("INSERT INTO search(rowid, kind, name, description) SELECT ") + searchedObjects, firstId_,
-        getLastId());
+// While the row of an object begins, no other one is open.
+void SqliteStoreModelWriter::beginRow(const SqlTable& table) {
+  if (keptSize_ >= mostKept && table.holdsObjects) loadAll();
+  Pending& pending = pending_[table.index];
+  pending.rows.add(pending.defaults.data());
 }
-
-void SqliteStoreModelWriter::bindDefault(SqliteStatement& insert, const SqlTable& table, std::size_t column) {
-  const SqlColumn::Kind kind = table.columns[column].kind;
-  if (kind == SqlColumn::Kind::number || kind == SqlColumn::Kind::flag) {
-    insert.bind(parameterOf(column), 0);
-  } else {
-    insert.bindNull(parameterOf(column));
-  }
-}
-
-void SqliteStoreModelWriter::beginRow(const SqlTable&) {}
 
 void SqliteStoreModelWriter::putNumber(const SqlTable& table, std::size_t column, std::int64_t value) {
-  Insert& insert = inserts_[table.index];
-  insert.statement.bind(parameterOf(column), value);
-  insert.parameters[column] = Parameter::ofThisRow;
+  pending_[table.index].rows.last()[column] = SqliteCell(value);
 }
 
 void SqliteStoreModelWriter::putText(const SqlTable& table, std::size_t column, std::string_view value,
                                      bool isPassing) {
-  Insert& insert = inserts_[table.index];
-  insert.statement.bind(parameterOf(column), value, isPassing);
-  insert.parameters[column] = Parameter::ofThisRow;
+  if (isPassing) {
+    value = keptTexts_.emplace_back(value);
+    keptSize_ += value.size();
+  }
+  pending_[table.index].rows.last()[column] = SqliteCell(value);
 }
 
-// Parameters keep their values, so only those are put back to the default that the row before has set
-// and this one has not.
 void SqliteStoreModelWriter::endRow(const SqlTable& table) {
-  Insert& insert = inserts_[table.index];
-  for (std::size_t column = 0; column < insert.parameters.size(); ++column) {
-    Parameter& parameter = insert.parameters[column];
-    if (parameter == Parameter::ofFormerRow) {
-      bindDefault(insert.statement, table, column);
-      parameter = Parameter::atDefault;
-    } else if (parameter == Parameter::ofThisRow) {
-      parameter = Parameter::ofFormerRow;
-    }
-  }
-  insert.statement.step();
-  insert.statement.reset();
+  SqliteRowBlock& rows = pending_[table.index].rows;
+  search_->add(table, rows.last());
+  if (rows.getCount() == rowsOfBlock) load(table);
+}
+
+void SqliteStoreModelWriter::load(const SqlTable& table) {
+  Pending& pending = pending_[table.index];
+  if (pending.rows.getCount() == 0) return;
+  if (!pending.insert) pending.insert.emplace(database_, insertInto(table));
+  feed_->run(*pending.insert, pending.rows);
+  pending.rows.clear();
+}
+
+void SqliteStoreModelWriter::loadAll() {
+  for (const SqlTable& table : getSchema().getTables()) load(table);
+  search_->flush();
+  keptTexts_.clear();
+  keptSize_ = 0;
 }

@@ -1,10 +1,14 @@
 // SqliteStoreModelWriter: the SQLite format of saved models; docs/sqlite.md describes it.
 #pragma once
 
+#include <deque>
+#include <optional>
+#include <string>
 #include <vector>
 
 #include "repository/storage/SqlRowWriter.h"
-#include "repository/storage/SqliteDatabase.h"
+#include "repository/storage/SqliteRowFeed.h"
+#include "repository/storage/SqliteSearch.h"
 
 /// Writes one model into the database, which holds none yet or some of this format. A model of the same
 /// origin path that is there is replaced. Whoever makes the writer begins the transaction before the
@@ -28,20 +32,25 @@ class KYR_EXPORT SqliteStoreModelWriter : public SqlRowWriter {
   void endRow(const SqlTable& table) override;
 
  private:
-  enum class Parameter : unsigned char { atDefault, ofFormerRow, ofThisRow };
-  struct Insert {
-    SqliteStatement statement;
-    std::vector<Parameter> parameters;  // by column
+  // The rows of a table that are not in the database yet.
+  struct Pending {
+    std::vector<SqliteCell> defaults;
+    SqliteRowBlock rows;
+    std::optional<SqliteStatement> insert;  // prepared for the first block
   };
-  static void bindDefault(SqliteStatement& insert, const SqlTable& table, std::size_t column);
   void createSchema();
   void refuseOthers() const;
   void removeFormer(const KYRStoreModel& model);
-  void fillSearch();
+  void load(const SqlTable& table);
+  void loadAll();
 
   SqliteDatabase& database_;
   KYRString shownPath_;
   bool isNew_ = false;
   std::int64_t firstId_ = 1;
-  std::vector<Insert> inserts_;  // by the index of the table
+  std::optional<SqliteRowFeed> feed_;
+  std::optional<SqliteSearch> search_;
+  std::vector<Pending> pending_;       // by the index of the table
+  std::deque<std::string> keptTexts_;  // what rows that are pending refer to, unless it is the model's
+  std::size_t keptSize_ = 0;
 };

@@ -133,6 +133,22 @@ TEST(FailingCallsOfThreads, AThreadThatCannotBeStartedIsDoneWithout) {
   }
 }
 
+TEST(FailingCallsOfThreads, ADatabaseIsTheSameWithoutThem) {
+  const TemporaryFile input(fileOfClasses(4800));
+  ImportRun import(input.path);
+  import.run();
+  const std::unique_ptr<KYRStoreModel> model = loadStoreModel(KYRFile(import.output().c_str()));
+  const std::string path = import.output() + ".sqlite";
+  const auto save = [&] {
+    saveStoreModelFile(KYRFile(path.c_str()), *model, StoreModelFormat::sqlite);
+    return readWholeFile(path);
+  };
+  const std::string expected = save();
+  const CallFault failing(FailingCall::thread, 0, EAGAIN, CallFault::Extent::allFrom);
+  EXPECT_TRUE(save() == expected);
+  EXPECT_TRUE(failing.hasFailed());
+}
+
 std::unique_ptr<KYRStoreModel> loadSample() {
   ImportRun import(samplePath("enterprise-architect.xmi"));
   import.run();

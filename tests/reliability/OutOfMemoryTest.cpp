@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <iostream>
 #include <limits>
 #include <new>
@@ -14,6 +15,7 @@
 #include "repository/storage/StoreModelFile.h"
 #include "tests/reliability/ImportRun.h"
 #include "tests/reliability/Soak.h"
+#include "tests/repository/SqliteFile.h"
 #include "tests/support/FailingAllocation.h"
 #include "tests/support/MemoryGrowth.h"
 #include "tests/support/TemporaryFile.h"
@@ -113,6 +115,13 @@ void failEachAllocation(const std::string& input, long cases) {
             << " left out of a model\n";
 }
 
+void checkSearch(const std::string& path) {
+  const SqliteFile database(path);
+  EXPECT_EQ(database.ask("PRAGMA integrity_check"), "ok");
+  EXPECT_EQ(database.ask("INSERT INTO search(search, rank) VALUES ('integrity-check', 1)"), "");
+  EXPECT_EQ(database.ask("SELECT count(*) FROM search WHERE search MATCH 'first OR second'"), "9600");
+}
+
 class OutOfMemory : public testing::TestWithParam<const char*> {};
 
 TEST_P(OutOfMemory, AnImportRaisesOrGivesAValidModel) { failEachAllocation(samplePath(GetParam()), 40); }
@@ -152,6 +161,36 @@ TEST(OutOfMemoryInThreads, AnImportRaisesOrGivesAValidModel) {
       }
     }
   }
+}
+
+// A thread gathers the words of a database.
+TEST(OutOfMemoryInThreads, ADatabaseIsWholeOrThereIsNone) {
+  const TemporaryFile input(fileOfClasses(4800));
+  ImportRun import(input.path);
+  import.run();
+  const std::unique_ptr<KYRStoreModel> model = loadStoreModel(KYRFile(import.output().c_str()));
+  const std::string path = import.output() + ".sqlite";
+  const auto save = [&] { saveStoreModelFile(KYRFile(path.c_str()), *model, StoreModelFormat::sqlite); };
+  const long count = countAllocations(save);
+  const std::string expected = readWholeFile(path);
+  std::filesystem::remove(path);
+  const long cases = isSoaking() ? 1000 : 60;
+  for (const Extent extent : {Extent::one, Extent::allFrom}) {
+    for (long number = 0; number < count; number += stepFrom(number, count, cases)) {
+      Outcome outcome = Outcome::done;
+      {
+        const FailingAllocation failing(number, extent);
+        outcome = outcomeOf(save);
+      }
+      // SQLite does without some allocations, and then may lay the rows out in another way.
+      EXPECT_EQ(std::filesystem::exists(path), outcome == Outcome::done) << number;
+      if (outcome == Outcome::done) checkSearch(path);
+      std::filesystem::remove(path);
+      EXPECT_EQ(import.filesInFolder(), 1U) << number;
+    }
+  }
+  save();
+  EXPECT_TRUE(readWholeFile(path) == expected);
 }
 
 // A saved model, and what is done with it.

@@ -105,7 +105,25 @@ TEST_F(SqliteStoreModel, EveryFieldArrives) {
             "box|-|-60|70|1\nline|1,2;3,4|-60|70|0");
 }
 
-// The statement of a table is used again and again: a row must not take over what the one before has set.
+// Each statement that SQLite begins costs as much as some rows do, so rows go in by hundreds.
+TEST_F(SqliteStoreModel, StatementsAreFewForManyRows) {
+  const auto statementsFor = [this](unsigned int packages) {
+    KYRStoreModel model;
+    for (unsigned int i = 0; i < packages; ++i) model.addDesignPackage(new KYRDesignPackage());
+    SqliteDatabase database(path(std::to_string(packages).c_str()), KYRString("m"));
+    int statements = 0;
+    sqlite3_trace_v2(
+        database.getHandle(), SQLITE_TRACE_STMT,
+        [](unsigned int, void* count, void*, void*) { return ++*static_cast<int*>(count), 0; }, &statements);
+    SqliteStoreModelWriter writer(database, KYRString("m"));
+    writeStoreModel(model, writer);
+    EXPECT_EQ(database.getNumber("SELECT count(*) FROM packages"), packages);
+    return statements;
+  };
+  EXPECT_LE(statementsFor(20000), statementsFor(0) + 20000 / 200);
+}
+
+// The rows of a table wait in one block: a row must not take over what the one before has set.
 TEST_F(SqliteStoreModel, EachRowHasItsOwnValuesOnly) {
   KYRStoreModel model;
   for (int i = 0; i < 6; ++i) {
