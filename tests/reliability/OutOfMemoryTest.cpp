@@ -118,7 +118,8 @@ void failEachAllocation(const std::string& input, long cases) {
 void checkSearch(const std::string& path) {
   const SqliteFile database(path);
   EXPECT_EQ(database.ask("PRAGMA integrity_check"), "ok");
-  EXPECT_EQ(database.ask("INSERT INTO search(search, rank) VALUES ('integrity-check', 1)"), "");
+  // By itself: the view of the objects has more rows than are searched.
+  EXPECT_EQ(database.ask("INSERT INTO search(search) VALUES ('integrity-check')"), "");
   EXPECT_EQ(database.ask("SELECT count(*) FROM search WHERE search MATCH 'first OR second'"), "9600");
 }
 
