@@ -13,7 +13,8 @@
 
 // As in the command, so that both are measured with the same allocator.
 extern "C" {
-[[gnu::visibility("default")]] const char* malloc_conf = "narenas:1,lg_extent_max_active_fit:20";  // NOLINT: the name is given
+// NOLINTNEXTLINE: the name is given
+[[gnu::visibility("default")]] const char* malloc_conf = "narenas:1,lg_extent_max_active_fit:20";
 }
 
 namespace {

@@ -49,7 +49,7 @@ class AddressRuns {
   // Runs shorter than this on average are no better than a table.
   static constexpr std::size_t shortestAverage = 16;
   // A wider gap may be filled with newer objects, whose addresses would then lie within the run.
-  static constexpr std::uintptr_t longestStep = 64 * 1024;
+  static constexpr std::uintptr_t longestStep = std::uintptr_t{64} * 1024;
   struct Run {
     std::uintptr_t low;
     std::uintptr_t high;

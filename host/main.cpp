@@ -14,7 +14,8 @@
 // the first allocation of a thread would make another, and jemalloc crashes when there is no memory left for
 // that. What the document of the file leaves is used for the model, in pieces of any size.
 extern "C" {
-[[gnu::visibility("default")]] const char* malloc_conf = "narenas:1,lg_extent_max_active_fit:20";  // NOLINT: the name is given
+// NOLINTNEXTLINE: the name is given
+[[gnu::visibility("default")]] const char* malloc_conf = "narenas:1,lg_extent_max_active_fit:20";
 }
 
 namespace {
