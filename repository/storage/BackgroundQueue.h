@@ -26,7 +26,7 @@ class BackgroundQueue {
       : items_(places, empty), taker_(std::move(taker)) {}
   BackgroundQueue(const BackgroundQueue&) = delete;
   BackgroundQueue& operator=(const BackgroundQueue&) = delete;
-  /// Returns when nothing is being taken any more.
+  /// Returns when nothing is being taken any more. What waits is dropped.
   ~BackgroundQueue() { stop(); }
 
   /// Gives the item that `fill` fills, which has been used before; waits while there is none. Raises what
@@ -70,7 +70,7 @@ class BackgroundQueue {
     std::unique_lock lock(mutex_);
     for (;;) {
       changed_.wait(lock, [this] { return isFinished_ || given_ > taken_; });
-      if (given_ == taken_) return;
+      if (isFinished_) return;
       const Item& item = items_[taken_ % items_.size()];
       lock.unlock();
       std::exception_ptr failure;

@@ -1,6 +1,8 @@
 // Full-text search by FTS5, which keeps words only: the texts are those of the view `objects`.
 #include "repository/storage/SqliteSearch.h"
 
+#include <sqlite3.h>
+
 #include <string>
 
 namespace {
@@ -75,7 +77,7 @@ void SqliteSearch::add(const SqlTable& table, const SqliteCell* row) {
 
 // Small models need no thread: what there is at the end goes straight in.
 void SqliteSearch::handOn() {
-  if (isEmpty_ && !aside_) {
+  if (isEmpty_ && !aside_ && sqlite3_threadsafe() != 0) {
     aside_.emplace(database_.getShownPath(), createSearch, insertSearched(), searchedWidth);
   }
   if (aside_) {

@@ -1,6 +1,8 @@
 // What FTS5 keeps stands in tables of its own, which are the same in all databases.
 #include "repository/storage/SqliteSearchAside.h"
 
+#include <sqlite3.h>
+
 namespace {
 
 // One that is taken and one that waits.
@@ -26,7 +28,8 @@ SqliteSearchAside::SqliteSearchAside(const KYRString& shownPath, const char* cre
       blocks_(blockCount, SqliteRowBlock(width),
               [this](const SqliteRowBlock& rows) { feed_.run(insert_, rows); }) {}
 
-SqliteSearchAside::~SqliteSearchAside() = default;
+// Whoever goes without the words need not wait for them.
+SqliteSearchAside::~SqliteSearchAside() { sqlite3_interrupt(database_.getHandle()); }
 
 SqliteDatabase& SqliteSearchAside::prepare(const char* createTable) {
   database_.run("PRAGMA journal_mode = OFF; BEGIN");
@@ -44,6 +47,8 @@ void SqliteSearchAside::wait() { blocks_.wait(); }
 void SqliteSearchAside::copyTo(SqliteDatabase& database) {
   wait();
   database_.run("COMMIT");
+  // Where SQLite protects such tables from its users.
+  sqlite3_db_config(database.getHandle(), SQLITE_DBCONFIG_DEFENSIVE, 0, nullptr);
   copy(database_, database, "SELECT id, block FROM search_data ORDER BY id",
        "REPLACE INTO search_data VALUES (?, ?)");
   copy(database_, database, "SELECT segid, term, pgno FROM search_idx ORDER BY segid, term",

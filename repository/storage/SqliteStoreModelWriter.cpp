@@ -1,6 +1,9 @@
-// Rows go in through one prepared statement for each table, in order of their ids, so that every tree of
-// the file only grows at its end. Indexes are made over the finished rows: sorting once is far cheaper
-// than finding the place of each entry.
+// Rows go in by blocks, through one prepared statement for each table and there in order of their ids, so
+// that every tree of the file only grows at its end. Indexes of a new file are made over the finished rows:
+// sorting once is far cheaper than finding the place of each entry.
+//
+// A database that is there already may have got triggers from its user. They see plain inserts, and rows of
+// all tables in turn, what is referred to mostly first.
 #include "repository/storage/SqliteStoreModelWriter.h"
 
 #include <algorithm>
@@ -19,9 +22,11 @@ constexpr std::size_t rowsOfBlock = 256;
 // Texts that are kept for rows, until the rows are loaded.
 constexpr std::size_t mostKept = std::size_t{1} << 20;
 
-// A row that is refused ends the whole transaction; SQLite need not be able to take back the block alone.
-std::string insertInto(const SqlTable& table) {
-  return "INSERT OR FAIL INTO " + std::string(table.name) + ' ' + SqliteRowFeed::select(table.columns.size());
+// A row that is refused ends the whole transaction; SQLite need not be able to take back the block alone. But
+// what a statement says of conflicts also holds for the statements of triggers.
+std::string insertInto(const SqlTable& table, bool isNew) {
+  return (isNew ? "INSERT OR FAIL INTO " : "INSERT INTO ") + std::string(table.name) + ' ' +
+         SqliteRowFeed::select(table.columns.size());
 }
 
 SqliteCell defaultOf(const SqlColumn& column) {
@@ -104,7 +109,7 @@ void SqliteStoreModelWriter::removeFormer(const KYRStoreModel& model) {
 
 void SqliteStoreModelWriter::endDocument() {
   SqlRowWriter::endDocument();
-  for (const SqlTable& table : getSchema().getTables()) load(table);
+  loadRows();
   runOn(database_, "UPDATE models SET last_id = ?2 WHERE id = ?1", firstId_, getLastId());
   if (isNew_) database_.run(getSchema().createIndexes());
   search_->finish();
@@ -133,19 +138,28 @@ void SqliteStoreModelWriter::putText(const SqlTable& table, std::size_t column, 
 void SqliteStoreModelWriter::endRow(const SqlTable& table) {
   SqliteRowBlock& rows = pending_[table.index].rows;
   search_->add(table, rows.last());
-  if (rows.getCount() == rowsOfBlock) load(table);
+  if (rows.getCount() < rowsOfBlock) return;
+  if (isNew_) {
+    load(table);
+  } else {
+    loadRows();
+  }
 }
 
 void SqliteStoreModelWriter::load(const SqlTable& table) {
   Pending& pending = pending_[table.index];
   if (pending.rows.getCount() == 0) return;
-  if (!pending.insert) pending.insert.emplace(database_, insertInto(table));
+  if (!pending.insert) pending.insert.emplace(database_, insertInto(table, isNew_));
   feed_->run(*pending.insert, pending.rows);
   pending.rows.clear();
 }
 
-void SqliteStoreModelWriter::loadAll() {
+void SqliteStoreModelWriter::loadRows() {
   for (const SqlTable& table : getSchema().getTables()) load(table);
+}
+
+void SqliteStoreModelWriter::loadAll() {
+  loadRows();
   search_->flush();
   keptTexts_.clear();
   keptSize_ = 0;

@@ -42,15 +42,17 @@ class KYR_EXPORT SqliteStoreModelWriter : public SqlRowWriter {
   void refuseOthers() const;
   void removeFormer(const KYRStoreModel& model);
   void load(const SqlTable& table);
+  void loadRows();
   void loadAll();
 
   SqliteDatabase& database_;
   KYRString shownPath_;
   bool isNew_ = false;
   std::int64_t firstId_ = 1;
+  // What rows that are pending refer to, unless it is the model's. A thread of the search reads it, too.
+  std::deque<std::string> keptTexts_;
+  std::size_t keptSize_ = 0;
   std::optional<SqliteRowFeed> feed_;
   std::optional<SqliteSearch> search_;
-  std::vector<Pending> pending_;       // by the index of the table
-  std::deque<std::string> keptTexts_;  // what rows that are pending refer to, unless it is the model's
-  std::size_t keptSize_ = 0;
+  std::vector<Pending> pending_;  // by the index of the table
 };

@@ -4,8 +4,11 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <future>
 #include <numeric>
 #include <stdexcept>
+#include <thread>
 #include <vector>
 
 namespace {
@@ -29,6 +32,7 @@ TEST(BackgroundQueue, ItemsAreTakenInOrderAndUsedAgain) {
       queue.wait();
       EXPECT_EQ(taken.size(), 200U);
       queue.give([](Numbers& item) { item = {200}; });
+      queue.wait();
     }
     Numbers expected(201);
     std::iota(expected.begin(), expected.end(), 0);
@@ -40,6 +44,45 @@ TEST(BackgroundQueue, ItemsAreTakenInOrderAndUsedAgain) {
 TEST(BackgroundQueue, NothingGivenIsNothingToWaitFor) {
   BackgroundQueue<int> queue(2, 0, [](int) { FAIL(); });
   queue.wait();
+}
+
+TEST(BackgroundQueue, WhatWaitsAtTheEndIsDropped) {
+  std::promise<void> isTaking;
+  std::promise<void> mayGoOn;
+  int taken = 0;
+  std::thread other;
+  {
+    BackgroundQueue<int> queue(8, 0, [&](int) {
+      if (++taken == 1) isTaking.set_value();
+      mayGoOn.get_future().wait();
+    });
+    for (int i = 0; i < 8; ++i) queue.give([i](int& item) { item = i; });
+    isTaking.get_future().wait();
+    other = std::thread([&] {
+      std::this_thread::sleep_for(std::chrono::milliseconds(50));
+      mayGoOn.set_value();
+    });
+  }
+  other.join();
+  EXPECT_EQ(taken, 1);
+}
+
+TEST(BackgroundQueue, WhatIsNotFilledIsNotGiven) {
+  Numbers taken;
+  BackgroundQueue<int> queue(2, 0, [&taken](int item) { taken.push_back(item); });
+  for (int i = 0; i < 6; ++i) {
+    const auto fill = [i](int& item) {
+      if (i % 2 == 0) throw std::runtime_error("even");
+      item = i;
+    };
+    if (i % 2 == 0) {
+      EXPECT_THROW(queue.give(fill), std::runtime_error);
+    } else {
+      queue.give(fill);
+    }
+  }
+  queue.wait();
+  EXPECT_EQ(taken, (Numbers{1, 3, 5}));
 }
 
 TEST(BackgroundQueue, AFailureComesOutOfTheWait) {

@@ -3,10 +3,14 @@
 
 #include <gmock/gmock.h>
 
+#include <filesystem>
+
+#include "foundation/KYRException.h"
 #include "repository/model/KYRClass.h"
 #include "repository/model/KYRDesignPackage.h"
 #include "repository/model/KYRMetadataOrigin.h"
 #include "repository/model/KYRNote.h"
+#include "repository/storage/SqliteStoreModelWriter.h"
 #include "tests/repository/ModelFolder.h"
 #include "tests/repository/SqliteFile.h"
 
@@ -78,6 +82,21 @@ TEST_F(SqliteSearches, ALargeModelIsAddedToAndReplaced) {
   EXPECT_EQ(ask("PRAGMA integrity_check"), "ok");
 }
 
+// A trigger may look away from what is there already, and at what a row refers to.
+TEST_F(SqliteSearches, TriggersOfTheUserSeeWhatIsAdded) {
+  appendStoreModelFile(file("m.sqlite"), KYRStoreModel());
+  EXPECT_EQ(ask("CREATE TABLE seen(word UNIQUE); CREATE TABLE orphans(id);"
+                "CREATE TRIGGER added AFTER INSERT ON classes BEGIN"
+                "  INSERT OR IGNORE INTO seen VALUES (new.visibility);"
+                "  INSERT INTO orphans SELECT new.id WHERE new.package_id NOT IN (SELECT id FROM packages);"
+                "END"),
+            "");
+  appendStoreModelFile(file("m.sqlite"), *modelOfClasses(1000));
+  EXPECT_EQ(ask("SELECT count(*) FROM seen"), "1");
+  EXPECT_EQ(ask("SELECT count(*) FROM orphans"), "0");
+  EXPECT_EQ(ask("SELECT count(*) FROM classes"), "1000");
+}
+
 // Texts that had to be mended are no texts of the model, and go when there are many of them.
 TEST_F(SqliteSearches, MendedTextsAreKeptUntilTheyAreIn) {
   const std::string damaged = std::string(1000, 'w') + " \xFF mended";
@@ -87,6 +106,26 @@ TEST_F(SqliteSearches, MendedTextsAreKeptUntilTheyAreIn) {
             "5000|1|1009");
   EXPECT_EQ(ask("SELECT count(*) FROM classes WHERE name <> 'Class ' || (id - 3)"), "0");
   EXPECT_EQ(ask(integrityCheck), "");
+}
+
+// The thread that gathers the words still reads them when the saving ends early.
+TEST_F(SqliteSearches, MendedTextsLiveAsLongAsTheThreadThatReadsThem) {
+  const auto model = modelOfClasses(9400, "a few damaged words \xFF");
+  int failed = 0;
+  for (int pages = 150; pages < 420; pages += 10) {
+    const std::string place = path("full.sqlite");
+    std::filesystem::remove(place);
+    SqliteDatabase database(place, KYRString("full"));
+    database.run("PRAGMA journal_mode = OFF; PRAGMA max_page_count = " + std::to_string(pages) + "; BEGIN");
+    try {
+      SqliteStoreModelWriter writer(database, KYRString("full"));
+      writeStoreModel(*model, writer);
+    } catch (const KYRException& error) {
+      EXPECT_NE(error.getMessage().view().find("full"), std::string_view::npos);
+      ++failed;
+    }
+  }
+  EXPECT_GT(failed, 10);
 }
 
 TEST_F(SqliteSearches, ANoteIsFoundByItsText) {
