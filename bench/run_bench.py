@@ -66,14 +66,21 @@ SPECIAL = (
 
 def touch_memory(megabytes):
     """Has the system hold so much free memory ready. In a process of its own, which gives it back at once."""
+    if megabytes <= 0:
+        return
     child = os.fork()
     if child == 0:
-        chunk = bytes(1 << 20)
-        with mmap.mmap(-1, megabytes << 20) as memory:
-            for _ in range(megabytes):
-                memory.write(chunk)
-        os._exit(0)
-    os.waitpid(child, 0)
+        code = 1
+        try:
+            chunk = bytes(1 << 20)
+            with mmap.mmap(-1, megabytes << 20) as memory:
+                for _ in range(megabytes):
+                    memory.write(chunk)
+            code = 0
+        finally:
+            os._exit(code)
+    if os.waitpid(child, 0)[1] != 0:
+        print(f"{megabytes} MB of memory could not be touched", file=sys.stderr)
 
 
 class Run:
@@ -228,7 +235,8 @@ def bench_sizes(bench, kinds, sizes):
 def bench_special(bench):
     widths = (34, 7, 8, 8, 6, 9, 13, 13)
     print()
-    print_row(("special file", "MB", "expat s", "import s", "ratio", "peak MB", "growth import", "growth memory"), widths)
+    heads = ("special file", "MB", "expat s", "import s", "ratio", "peak MB", "growth import", "growth memory")
+    print_row(heads, widths)
     before = {}
     for title, options, tenth in SPECIAL:
         path = bench.generate(options)

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <algorithm>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
@@ -20,6 +21,7 @@ class AddressRuns {
     ++comparisons;
     const std::uintptr_t address = addressOf(entry);
     if (continues(address)) return true;
+    comparisons += std::bit_width(runs_.size());
     const auto above = firstAbove(address);
     return above == runs_.begin() || std::prev(above)->high < address;
   }
@@ -30,7 +32,7 @@ class AddressRuns {
     std::uint64_t comparisons = 0;
     if (!excludes(entry, comparisons)) return false;
     if (continues(addressOf(entry))) return true;
-    if (runs_.size() > shortestAverage + count / shortestAverage) return false;
+    if (runs_.size() > std::min(shortestAverage + count / shortestAverage, mostRuns)) return false;
     if (runs_.size() == runs_.capacity()) runs_.reserve(2 * runs_.size() + 1);
     return true;
   }
@@ -48,6 +50,8 @@ class AddressRuns {
  private:
   // Runs shorter than this on average are no better than a table.
   static constexpr std::size_t shortestAverage = 16;
+  // A run that is new may move all others.
+  static constexpr std::size_t mostRuns = 1024;
   // A wider gap may be filled with newer objects, whose addresses would then lie within the run.
   static constexpr std::uintptr_t longestStep = std::uintptr_t{64} * 1024;
   struct Run {

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <bit>
 #include <cassert>
+#include <new>
 #include <utility>
 
 #include "foundation/AddressRuns.h"
@@ -209,6 +210,10 @@ const void* KYRVector::remove(Iterator* position) {
 
 void KYRVector::removeAt(unsigned int index) {
   if (index >= entries_.size()) return;
-  if (index_) index_->remove(entries_, entries_[index]);
+  try {
+    if (index_) index_->remove(entries_, entries_[index]);
+  } catch (const std::bad_alloc&) {
+    index_.reset();  // it is for speed only, and can be made again
+  }
   entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(index));
 }

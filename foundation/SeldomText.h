@@ -32,7 +32,7 @@ class SeldomText {
   operator const KYRString&() const noexcept { return get(); }  // NOLINT: it is a text
   const KYRString& get() const noexcept { return text_ ? *text_ : KYRString::getEmptyString(); }
   bool isEmpty() const noexcept { return text_ == nullptr; }
-  std::string_view view() const noexcept { return text_ ? text_->view() : std::string_view(); }
+  std::string_view view() const noexcept { return get().view(); }
   unsigned int getLength() const noexcept { return text_ ? text_->getLength() : 0; }
   /// The characters, ending in a zero. Never null.
   const char* getCharacters() const noexcept { return get().getCharacters(); }

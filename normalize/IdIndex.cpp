@@ -21,7 +21,7 @@ std::uint64_t makeSeed() {
 }  // namespace
 
 IdIndex::IdIndex(std::size_t expected)
-    : slots_(std::bit_ceil(std::max(fewestSlots, 2 * expected))), seed_(makeSeed()) {}
+    : slots_(std::bit_ceil(std::max(fewestSlots, expected + expected / 2 + 1))), seed_(makeSeed()) {}
 
 std::uint32_t IdIndex::hashOf(std::string_view id) const noexcept {
   return static_cast<std::uint32_t>(TextHash::of(id, seed_));
@@ -46,7 +46,7 @@ std::uint32_t IdIndex::enter(std::string_view id, std::uint32_t bearer) {
   const std::uint32_t hash = hashOf(id);
   std::size_t at = slotOf(id, hash);
   if (slots_[at].bearer != none) return slots_[at].bearer;
-  if (2 * (count_ + 1) > slots_.size()) {
+  if (3 * (count_ + 1) > 2 * slots_.size()) {
     grow();
     at = slotOf(id, hash);
   }

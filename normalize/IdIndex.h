@@ -28,7 +28,7 @@ class IdIndex {
   std::uint32_t hashOf(std::string_view id) const noexcept;
   void grow();
 
-  std::vector<Slot> slots_;  // open addressing; a power of two, at most half full
+  std::vector<Slot> slots_;  // open addressing; a power of two, at most two thirds full
   std::size_t count_ = 0;
   std::uint64_t seed_;
 };

@@ -27,17 +27,20 @@ XmlDocumentEditor::XmlDocumentEditor(std::shared_ptr<const XmlDocument> source)
   result_->texts_.shareBlocks(source_->texts_);
   result_->source_ = source_;
   result_->arena_->keep(source_->arena_);
-  heads_.reserve(withRoom(source_->getNodeCount()));
-  for (Node node = 0; node < source_->getNodeCount(); ++node) {
-    heads_.push_back(
-        {source_->getName(node), source_->nodes_[node].firstAttribute, source_->getAttributeCount(node)});
-  }
 }
 
 XmlDocumentEditor::~XmlDocumentEditor() = default;
 
+void XmlDocumentEditor::change() {
+  if (isChanged()) return;
+  std::vector<Head> heads;
+  heads.reserve(withRoom(source_->getNodeCount()));
+  for (Node node = 0; node < source_->getNodeCount(); ++node) heads.push_back(headOf(node));
+  heads_ = std::move(heads);
+}
+
 void XmlDocumentEditor::link() {
-  isChanged_ = true;
+  change();
   if (!links_.empty()) return;
   const Node count = source_->getNodeCount();
   links_.reserve(withRoom(count));
@@ -93,7 +96,7 @@ KYRString XmlDocumentEditor::getContent(Node node) const {
 
 const XmlDocumentEditor::AttributeRecord& XmlDocumentEditor::attributeAt(Node node,
                                                                          std::uint32_t index) const noexcept {
-  const std::uint32_t number = heads_[node].firstAttribute + index;
+  const std::uint32_t number = headOf(node).firstAttribute + index;
   return number < sourceAttributes_ ? source_->attributes_[number] : attributes_[number - sourceAttributes_];
 }
 
@@ -107,7 +110,7 @@ const KYRString* XmlDocumentEditor::findAttribute(Node node, Name name) const no
 
 // The attributes of the node in the editor's own array, with room for so many more behind them.
 XmlDocumentEditor::AttributeRecord* XmlDocumentEditor::ownAttributes(Node node, std::uint32_t room) {
-  isChanged_ = true;
+  change();
   Head& record = heads_[node];
   const std::size_t own = attributes_.size();
   const bool isLast = record.firstAttribute + std::size_t{record.attributeCount} == sourceAttributes_ + own;
@@ -131,8 +134,8 @@ std::uint32_t XmlDocumentEditor::addText(std::string_view text) {
 }
 
 void XmlDocumentEditor::setName(Node node, Name name) {
-  if (heads_[node].name == name) return;
-  isChanged_ = true;
+  if (getName(node) == name) return;
+  change();
   heads_[node].name = name;
 }
 
@@ -173,7 +176,7 @@ void XmlDocumentEditor::orderAttributes(Node node, const std::vector<std::uint32
 }
 
 XmlDocumentEditor::Node XmlDocumentEditor::addElement(Name name, Node origin) {
-  requireRoom(heads_.size());
+  requireRoom(getNodeCount());
   link();
   origins_.push_back(originOf(origin));
   links_.push_back({noNode, noNode, noNode, noNode, noNode});
@@ -217,7 +220,7 @@ void XmlDocumentEditor::remove(Node node) {
 }
 
 std::shared_ptr<const XmlDocument> XmlDocumentEditor::build() {
-  if (!isChanged_) return source_;
+  if (!isChanged()) return source_;
   if (links_.empty()) {
     buildAlike();
   } else {
@@ -256,7 +259,7 @@ void XmlDocumentEditor::buildAnew() {
 }
 
 void XmlDocumentEditor::copyNode(Node node, Node parent, Node end) {
-  const Head& head = heads_[node];
+  const Head head = headOf(node);
   const XmlDocument::NodeRecord& origin = source_->nodes_[originOf(node)];
   XmlBlockArray<AttributeRecord>& attributes = result_->attributes_;
   result_->nodes_.emplaceBack(head.name, parent, end, static_cast<std::uint32_t>(attributes.size()),

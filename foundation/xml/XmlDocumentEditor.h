@@ -1,9 +1,10 @@
 // XmlDocumentEditor: a document that can be changed, and the new document that comes of it.
 //
-// It stands over a finished document, whose nodes keep their numbers here. Nodes that are not touched still
-// show the texts and attributes of that document, and as long as no node was added, moved or removed its
-// array is the tree too; the first such change links the nodes. Each node of the result has the line and
-// column of the node that it comes from, so messages name places in the file as it was written.
+// It stands over a finished document, whose nodes keep their numbers here, and shows it as it is until
+// something is changed. Nodes that are not touched still show the texts and attributes of that document, and
+// as long as no node was added, moved or removed its array is the tree too; the first such change links the
+// nodes. Each node of the result has the line and column of the node that it comes from, so messages name
+// places in the file as it was written.
 #pragma once
 
 #include <cstdint>
@@ -31,11 +32,15 @@ class KYR_EXPORT XmlDocumentEditor {
   Name getNameCount() const noexcept { return result_->getNameCount(); }
 
   // Nodes. Node 0 is the root element; numbers stay when nodes are moved.
-  Node getNodeCount() const noexcept { return static_cast<Node>(heads_.size()); }
+  Node getNodeCount() const noexcept {
+    return heads_.empty() ? source_->getNodeCount() : static_cast<Node>(heads_.size());
+  }
   /// False for character data and for what was removed.
-  bool isElement(Node node) const noexcept { return heads_[node].name < removedName; }
-  Name getName(Node node) const noexcept { return heads_[node].name; }
-  const KYRString& getTag(Node node) const noexcept { return getNameText(heads_[node].name); }
+  bool isElement(Node node) const noexcept { return getName(node) < removedName; }
+  Name getName(Node node) const noexcept {
+    return heads_.empty() ? source_->getName(node) : heads_[node].name;
+  }
+  const KYRString& getTag(Node node) const noexcept { return getNameText(getName(node)); }
   Node getParent(Node node) const noexcept {
     return links_.empty() ? source_->getParent(node) : links_[node].parent;
   }
@@ -51,7 +56,7 @@ class KYR_EXPORT XmlDocumentEditor {
   std::uint32_t getColumn(Node node) const noexcept { return source_->getColumn(originOf(node)); }
 
   // Attributes, by position.
-  std::uint32_t getAttributeCount(Node node) const noexcept { return heads_[node].attributeCount; }
+  std::uint32_t getAttributeCount(Node node) const noexcept { return headOf(node).attributeCount; }
   Name getAttributeName(Node node, std::uint32_t index) const noexcept {
     return attributeAt(node, index).name;
   }
@@ -79,7 +84,7 @@ class KYR_EXPORT XmlDocumentEditor {
   /// Removes a node with all below it.
   void remove(Node node);
 
-  bool isChanged() const noexcept { return isChanged_; }
+  bool isChanged() const noexcept { return !heads_.empty(); }
   /// The document as it stands now: the source itself when nothing was changed. The editor is of no use
   /// behind it. The result keeps the source alive.
   std::shared_ptr<const XmlDocument> build();
@@ -103,12 +108,18 @@ class KYR_EXPORT XmlDocumentEditor {
     Node previous;
   };
 
+  Head headOf(Node node) const noexcept {
+    return heads_.empty() ? Head{source_->getName(node), source_->nodes_[node].firstAttribute,
+                                 source_->getAttributeCount(node)}
+                          : heads_[node];
+  }
   const AttributeRecord& attributeAt(Node node, std::uint32_t index) const noexcept;
   AttributeRecord* ownAttributes(Node node, std::uint32_t room);
   std::uint32_t addText(std::string_view text);
   Node originOf(Node node) const noexcept {
     return node < source_->getNodeCount() ? node : origins_[node - source_->getNodeCount()];
   }
+  void change();
   void link();
   void detach(Node node);
   void buildAlike();
@@ -116,11 +127,10 @@ class KYR_EXPORT XmlDocumentEditor {
   void copyNode(Node node, Node parent, Node end);
 
   std::shared_ptr<const XmlDocument> source_;
-  std::shared_ptr<XmlDocument> result_;  // from the start it holds all names and texts
-  std::vector<Head> heads_;
+  std::shared_ptr<XmlDocument> result_;      // from the start it holds all names and texts
+  std::vector<Head> heads_;                  // empty as long as nothing was changed
   std::vector<Link> links_;                  // empty as long as the tree is that of the source
   std::vector<Node> origins_;                // of added nodes
   std::vector<AttributeRecord> attributes_;  // of the elements whose attributes were changed
   std::uint32_t sourceAttributes_;
-  bool isChanged_ = false;
 };

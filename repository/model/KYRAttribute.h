@@ -12,7 +12,7 @@ class KYR_EXPORT KYRAttribute : public KYRStructuralFeature {
   bool isOptional = false;
   bool isDerived = false;
   bool isStatic = false;
-  SeldomText initialValue;
+  KYRString initialValue;
   /// The class that has the attribute; null before it is added.
   KYRClass* owner = nullptr;
   KYRCollection<KYRKey> keys;  // referred to: the keys that hold it

@@ -1,6 +1,7 @@
 // KYRModelObject: an element that has a physical name and can be shown on diagrams.
 #pragma once
 
+#include "foundation/SeldomText.h"
 #include "repository/model/KYRElement.h"
 
 class KYR_EXPORT KYRModelObject : public KYRElement {

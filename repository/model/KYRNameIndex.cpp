@@ -11,6 +11,7 @@ namespace {
 
 constexpr std::size_t smallestSlotCount = 32;
 constexpr std::uintptr_t groupMark = 1;
+static_assert(alignof(KYRObject) > groupMark && alignof(KYRObjectList) > groupMark);
 
 std::uint32_t hashOf(std::string_view name) noexcept {
   const std::uint64_t hash = std::hash<std::string_view>()(name);

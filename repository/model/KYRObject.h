@@ -9,7 +9,6 @@
 #include <cstdint>
 
 #include "foundation/KYRString.h"
-#include "foundation/SeldomText.h"
 #include "repository/model/KYRElementType.h"
 #include "repository/model/KYRModelForward.h"
 #include "repository/model/KYROwnedLists.h"
@@ -19,7 +18,7 @@ class KYR_EXPORT KYRObject : public KYR_Object {
  public:
   /// Free for the caller; the library carries it and never follows it.
   UMLElement* umlElement = nullptr;
-  SeldomText description;
+  KYRString description;
   /// The id in the source file.
   KYRString sourceId;
 

@@ -14,6 +14,8 @@ struct KYRObjectCollection::Names {
   KYRUniqueNumbers numbers;
 };
 
+static_assert(sizeof(void*) != 8 || sizeof(KYRObjectCollection) == 64);
+
 KYRObjectCollection::KYRObjectCollection(KYRObject* owner, bool isTold) noexcept
     : isTold_(isTold), owner_(owner) {}
 

@@ -177,6 +177,53 @@ TEST_F(KYRVectorTest, EntriesOfBlocksInAnyOrderNeedNoTable) {
   }
 }
 
+// Each block before the one added last, so that its run comes first among all.
+TEST_F(KYRVectorTest, FallingBlocksOfAFewEntriesStayLinear) {
+  constexpr std::size_t blockEntries = 17;
+  const std::size_t blocks = objects_.size() / blockEntries;
+  KYRVector list;
+  for (std::size_t block = blocks; block > 0; --block) {
+    for (std::size_t i = 0; i < blockEntries; ++i) {
+      ASSERT_TRUE(list.add(object((block - 1) * blockEntries + i), true, nullptr));
+    }
+  }
+  EXPECT_LT(list.getComparisonCount(), 4 * objects_.size());
+  for (std::size_t i = 0; i < blocks * blockEntries; ++i) ASSERT_TRUE(list.contains(object(i), nullptr));
+}
+
+TEST_F(KYRVectorTest, EntriesInTheOrderOfMemoryMayRepeatAndGo) {
+  for (const bool isRepeated : {false, true}) {
+    KYRVector list;
+    for (std::size_t i = 0; i < 100; ++i) ASSERT_TRUE(list.add(object(2 * i), true, nullptr));
+    ASSERT_TRUE(list.add(nullptr, true, nullptr));
+    ASSERT_FALSE(list.add(nullptr, true, nullptr));
+    if (isRepeated) {
+      ASSERT_TRUE(list.add(object(50), false, nullptr));
+    }
+    KYRVector copy(list);
+    list.removeAt(25);  // the entry 50
+    EXPECT_EQ(list.contains(object(50), nullptr), isRepeated);
+    EXPECT_FALSE(list.contains(object(51), nullptr));
+    EXPECT_TRUE(list.contains(object(52), nullptr));
+    EXPECT_TRUE(copy.contains(object(50), nullptr));
+    EXPECT_TRUE(copy.add(object(51), true, nullptr));
+    EXPECT_FALSE(copy.add(object(51), true, nullptr));
+  }
+}
+
+TEST_F(KYRVectorTest, WithoutMemoryEntriesStillGo) {
+  KYRVector list;
+  for (std::size_t i = 0; i < 1000; ++i) ASSERT_TRUE(list.add(object(i), true, nullptr));
+  {
+    const AllocationFailure failing(0);
+    EXPECT_THROW(list.contains(object(3), nullptr), std::bad_alloc);
+    list.removeAt(3);
+  }
+  EXPECT_FALSE(list.contains(object(3), nullptr));
+  EXPECT_TRUE(list.contains(object(4), nullptr));
+  EXPECT_EQ(list.getCount(), 999U);
+}
+
 TEST_F(KYRVectorTest, TheLastEntryIsKnownWithoutATable) {
   KYRVector list(1000);
   const AllocationProbe probe;

@@ -7,6 +7,7 @@
 #include <random>
 
 #include "foundation/xml/XmlDocumentWriter.h"
+#include "tests/foundation/AllocationProbe.h"
 #include "tests/foundation/XmlTestSupport.h"
 
 namespace {
@@ -35,6 +36,20 @@ TEST(XmlDocumentEditor, WithoutAChangeTheSourceComesBack) {
   editor.setAttribute(0, editor.intern("x"), "1");
   EXPECT_FALSE(editor.isChanged());
   EXPECT_EQ(editor.build(), source);
+}
+
+TEST(XmlDocumentEditor, LookingAtADocumentTakesNoMemory) {
+  const auto source = readDocument(small);
+  XmlDocumentEditor editor(source);
+  const XmlDocument::Name x = editor.intern("x");
+  const AllocationProbe probe;
+  for (Node node = 0; node < editor.getNodeCount(); ++node) {
+    EXPECT_EQ(editor.isElement(node), source->isElement(node));
+    EXPECT_EQ(editor.getName(node), source->getName(node));
+    EXPECT_EQ(editor.getAttributeCount(node), source->getAttributeCount(node));
+    EXPECT_EQ(editor.findAttribute(node, x) == nullptr, node != 0);
+  }
+  EXPECT_EQ(probe.getCount(), 0U);
 }
 
 TEST(XmlDocumentEditor, ShowsTheTreeOfTheSourceBeforeAndBehindAChangeOfIt) {
