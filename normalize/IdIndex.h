@@ -3,7 +3,8 @@
 
 #include <cstdint>
 #include <string_view>
-#include <vector>
+
+#include "foundation/TextSlots.h"
 
 class IdIndex {
  public:
@@ -22,13 +23,11 @@ class IdIndex {
     const char* id = nullptr;
     std::uint32_t hash = 0;
     std::uint32_t bearer = none;
+    bool isFree() const noexcept { return bearer == none; }
+    static constexpr bool isGone() noexcept { return false; }
+    bool isOf(std::string_view text) const noexcept;
   };
-  static bool isOf(const Slot& slot, std::string_view id, std::uint32_t hash) noexcept;
-  std::size_t slotOf(std::string_view id, std::uint32_t hash) const noexcept;
-  std::uint32_t hashOf(std::string_view id) const noexcept;
-  void grow();
 
-  std::vector<Slot> slots_;  // open addressing; a power of two, at most two thirds full
-  std::size_t count_ = 0;
+  TextSlots<Slot> slots_;
   std::uint64_t seed_;
 };

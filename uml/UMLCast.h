@@ -17,14 +17,17 @@ extern std::int32_t distances[UMLLineage::kindCount][UMLLineage::kindCount];
 void* learn(UMLElement* element, int kind);
 }  // namespace UMLCasts
 
-/// The part of `element` that is the class of that kind; null when it is null or no such object.
-inline void* umlCastTo(UMLElement* element, int kind) {
-  if (element == nullptr) return nullptr;
-  const int own = element->getKind();
+/// As `umlCastTo` below, of an object, not null, whose own class the caller knows: nothing is read of it.
+inline void* umlCastTo(UMLElement* element, int own, int kind) {
   if (!UMLLineage::isKindOf(own, kind)) return nullptr;
   const std::int32_t distance = UMLCasts::distances[own][kind];
   if (distance == 0) return UMLCasts::learn(element, kind);
   return reinterpret_cast<char*>(element) + (distance - 1) / 2;
+}
+
+/// The part of `element` that is the class of that kind; null when it is null or no such object.
+inline void* umlCastTo(UMLElement* element, int kind) {
+  return element == nullptr ? nullptr : umlCastTo(element, element->getKind(), kind);
 }
 
 /// `element` as a `T`; null when it is null or no `T`.

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "foundation/KYRString.h"
+#include "foundation/TextSlots.h"
 
 class UMLElement;
 
@@ -20,7 +21,7 @@ class IdTable {
 
   IdTable();
   /// The number of that id. A borrowed text must live as long as this table.
-  Number intern(const KYRString& id) { return intern(id, id.isEmpty() ? 0 : id.hashCode()); }
+  Number intern(const KYRString& id) { return intern(id, hashOf(id)); }
   /// As above, with the hash that `announce` has given for that id.
   Number intern(const KYRString& id, std::uint32_t hash);
   /// Tells that an id will be interned soon, and gives its hash. Looking up an id waits for memory three
@@ -28,55 +29,66 @@ class IdTable {
   /// `approachText` later, and has other things to do between, waits for none of them.
   std::uint32_t announce(const KYRString& id) const noexcept {
     if (id.isEmpty()) return 0;
-    const std::uint32_t hash = id.hashCode();
-    __builtin_prefetch(&slots_[hash & (slots_.size() - 1)]);
+    const std::uint32_t hash = hashOf(id);
+    slots_.prefetch(hash);
     return hash;
   }
   /// Asks for the entry of an announced id.
   void approach(std::uint32_t hash) const noexcept {
-    const Slot& slot = slots_[hash & (slots_.size() - 1)];
-    if (slot.hash == hash) __builtin_prefetch(&entries_[slot.number]);
+    const Slot* const slot = slots_.guess(hash);
+    if (slot != nullptr) __builtin_prefetch(&entries_[slot->number]);
   }
   /// Asks for the characters of an approached id.
   void approachText(std::uint32_t hash) const noexcept {
-    const Slot& slot = slots_[hash & (slots_.size() - 1)];
-    if (slot.hash == hash) __builtin_prefetch(entries_[slot.number].text.getCharacters());
+    const Slot* const slot = slots_.guess(hash);
+    if (slot != nullptr) __builtin_prefetch(entries_[slot->number].text.getCharacters());
   }
+  /// An object and the number of its own class; null for an id that nobody bears.
+  struct Bearer {
+    UMLElement* object;
+    int kind;
+  };
   /// Enters an object under its id, unless one is there already or the id is empty.
-  void enter(Number id, UMLElement* object) noexcept;
+  void enter(Number id, const Bearer& bearer) noexcept;
   /// Asks the processor for what `find` will read of that id.
   void prefetch(Number id) const noexcept { __builtin_prefetch(&entries_[id]); }
-  /// The first object entered under the id, or null.
-  UMLElement* find(Number id) const noexcept { return entries_[id].object; }
+  /// The first object entered under the id.
+  Bearer find(Number id) const noexcept {
+    return {entries_[id].object, static_cast<int>(entries_[id].kindAndMarks >> markCount)};
+  }
   /// Marks that a link of that relationship kind to the id waits.
-  void wait(Number id, int kind) noexcept { entries_[id].waitingKinds |= markOf(kind); }
+  void wait(Number id, int kind) noexcept { entries_[id].kindAndMarks |= markOf(kind); }
   /// Whether a link of that kind waits; may be true of a kind that shares its mark with another one.
   bool isWaiting(Number id, int kind) const noexcept {
-    return (entries_[id].waitingKinds & markOf(kind)) != 0;
+    return (entries_[id].kindAndMarks & markOf(kind)) != 0;
   }
   const KYRString& getText(Number id) const noexcept { return entries_[id].text; }
   /// Forgets all ids and gives their memory back.
   void empty();
 
  private:
+  static constexpr int markCount = 56;
   struct Entry {
     KYRString text;
     UMLElement* object = nullptr;
-    std::uint64_t waitingKinds = 0;
+    std::uint64_t kindAndMarks = 0;  // the kind of the object above the marks
   };
   // Ownership, kind 0, is noted for nearly every object and never waits but for foul files, so it has a
   // mark of its own.
   static std::uint64_t markOf(int kind) noexcept {
-    return std::uint64_t{1} << (kind == 0 ? 0 : 1 + (kind - 1) % 63);
+    return std::uint64_t{1} << (kind == 0 ? 0 : 1 + (kind - 1) % (markCount - 1));
   }
   // The hash stands beside the number, so that walking over other ids reads no entry.
   struct Slot {
     std::uint32_t hash = 0;
-    Number number = emptyId;  // emptyId: free
+    Number number = emptyId;
+    bool isFree() const noexcept { return number == emptyId; }
+    static constexpr bool isGone() noexcept { return false; }
   };
-  Slot& findFree(std::uint32_t hash) noexcept;
-  void grow();
+  static std::uint32_t hashOf(const KYRString& id) noexcept {
+    return TextSlots<Slot>::hashOf(id.view(), TextHash::seed());
+  }
 
   std::vector<Entry> entries_;
-  std::vector<Slot> slots_;  // open addressing; a power of two, at most two thirds full
+  TextSlots<Slot> slots_;
 };

@@ -115,24 +115,25 @@ void XMIParser::prefetchLinks(std::size_t at) const noexcept {
   if (at + idsAhead >= pendingLinks.size()) return;
   ids.prefetch(pendingLinks[at + idsAhead].first);
   ids.prefetch(pendingLinks[at + idsAhead].second);
-  __builtin_prefetch(ids.find(pendingLinks[at + objectsAhead].first));
-  __builtin_prefetch(ids.find(pendingLinks[at + objectsAhead].second));
+  __builtin_prefetch(ids.find(pendingLinks[at + objectsAhead].first).object);
+  __builtin_prefetch(ids.find(pendingLinks[at + objectsAhead].second).object);
 }
 
 void XMIParser::resolveLinks() {
   for (std::size_t at = 0; at < pendingLinks.size(); ++at) {
     prefetchLinks(at);
-    const PendingLink& link = pendingLinks[at];
-    UMLElement* const first = ids.find(link.first);
-    UMLElement* const second = ids.find(link.second);
-    const bool linked = first != nullptr && second != nullptr && linkRelationship(first, second, link.kind);
+    const PendingLink& pending = pendingLinks[at];
+    const IdTable::Bearer first = ids.find(pending.first);
+    const IdTable::Bearer second = ids.find(pending.second);
+    const bool linked =
+        first.object != nullptr && second.object != nullptr && link(first, second, pending.kind);
     if (observer == nullptr) continue;
     using Result = ReadObserver::LinkResult;
-    const Result result = linked              ? Result::linked
-                          : first == nullptr  ? Result::firstMissing
-                          : second == nullptr ? Result::secondMissing
-                                              : Result::wrongClass;
-    observer->link(ids.getText(link.first), ids.getText(link.second), link.kind, result);
+    const Result result = linked                     ? Result::linked
+                          : first.object == nullptr  ? Result::firstMissing
+                          : second.object == nullptr ? Result::secondMissing
+                                                     : Result::wrongClass;
+    observer->link(ids.getText(pending.first), ids.getText(pending.second), pending.kind, result);
   }
 }
 

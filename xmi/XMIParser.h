@@ -139,6 +139,8 @@ class XMIParser {
   void announceReferences(const ClassPlan& plan);
   void noteReferences(IdTable::Number id);
   void tieToParent(const ClassPlan& plan, const KYRString& tag, IdTable::Number id);
+  // As `linkRelationship`; nothing is read of the objects but what is filled in.
+  bool link(const IdTable::Bearer& first, const IdTable::Bearer& second, int kind);
   void noteLink(IdTable::Number first, IdTable::Number second, int kind);
   void detectVersions();
 

@@ -6,11 +6,10 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <string_view>
-#include <vector>
 
 #include "foundation/Export.h"
+#include "foundation/TextSlots.h"
 #include "repository/model/KYRModelForward.h"
 
 class KYRObjectList;
@@ -18,7 +17,7 @@ class KYRObjectList;
 /// Internal to the repository. An object must leave the index before its name changes.
 class KYR_EXPORT KYRNameIndex {
  public:
-  KYRNameIndex() noexcept;
+  KYRNameIndex();
   KYRNameIndex(const KYRNameIndex&) = delete;
   KYRNameIndex& operator=(const KYRNameIndex&) = delete;
   ~KYRNameIndex();
@@ -31,25 +30,25 @@ class KYR_EXPORT KYRNameIndex {
   KYRObject* find(std::string_view name, Condition condition, int argument) const;
   void add(KYRObject* object);
   void remove(const KYRObject* object) noexcept;
-  std::uint64_t getProbeCount() const noexcept { return probes_; }
+  /// Places looked at so far.
+  std::uint64_t getProbeCount() const noexcept { return probes_ + slots_.getProbeCount(); }
 
  private:
   // In `holder` the only object of the name, or the list of several with the lowest bit set.
   struct Slot {
     std::uint32_t hash = 0;
-    std::uintptr_t holder = 0;  // 0 in a free slot
+    std::uintptr_t holder = 0;
 
     bool isFree() const noexcept { return holder == 0; }
+    bool isGone() const noexcept;
     KYRObjectList* getGroup() const noexcept;  // null while one object has the name
-    KYRObject* getFirst() const noexcept;      // null in a free slot
+    KYRObject* getFirst() const noexcept;      // null when there is none
     void set(KYRObject* only) noexcept;
     void set(KYRObjectList* group) noexcept;
   };
-  std::size_t seek(std::string_view name, std::uint32_t hash) const noexcept;
-  void rehash(std::size_t slotCount);
-  void free(std::size_t hole) noexcept;
+  Slot& seek(std::string_view name, std::uint32_t hash) noexcept;
+  const Slot& seek(std::string_view name) const noexcept;
 
-  std::vector<Slot> slots_;  // a power of two, at most 2/3 used
-  std::size_t count_ = 0;    // names
-  mutable std::uint64_t probes_ = 0;
+  TextSlots<Slot> slots_;
+  mutable std::uint64_t probes_ = 0;  // those in lists of one name
 };

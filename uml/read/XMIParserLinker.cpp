@@ -11,13 +11,9 @@
 
 namespace {
 
-bool fits(const UMLMetamodel::LinkRow& row, const UMLElement& first, const UMLElement& second) {
-  return first.isKindOf(row.first.owner) && second.isKindOf(row.second.owner);
-}
-
-bool apply(const UMLMetamodel::LinkRow& row, UMLElement* first, UMLElement* second) {
-  void* const firstPart = umlCastTo(first, row.first.owner);
-  void* const secondPart = umlCastTo(second, row.second.owner);
+bool apply(const UMLMetamodel::LinkRow& row, const IdTable::Bearer& first, const IdTable::Bearer& second) {
+  void* const firstPart = umlCastTo(first.object, first.kind, row.first.owner);
+  void* const secondPart = umlCastTo(second.object, second.kind, row.second.owner);
   if (firstPart == nullptr || secondPart == nullptr) return false;
   if (row.first.fill != nullptr) row.first.fill(firstPart, secondPart);
   if (row.second.fill != nullptr) row.second.fill(secondPart, firstPart);
@@ -27,12 +23,15 @@ bool apply(const UMLMetamodel::LinkRow& row, UMLElement* first, UMLElement* seco
 }  // namespace
 
 bool XMIParser::linkRelationship(UMLElement* first, UMLElement* second, int kind) {
+  return link({first, first->getKind()}, {second, second->getKind()}, kind);
+}
+
+bool XMIParser::link(const IdTable::Bearer& first, const IdTable::Bearer& second, int kind) {
   if (kind < 0 || kind >= UMLMetamodel::linkKindCount) return false;
   const UMLMetamodel::LinkRow& row = UMLMetamodel::linkRows[static_cast<unsigned int>(kind)];
   // What one link raises must not stop the others.
   try {
-    if (fits(row, *first, *second)) return apply(row, first, second);
-    if (fits(row, *second, *first)) return apply(row, second, first);
+    return apply(row, first, second) || apply(row, second, first);
   } catch (...) {
     KBI_UML2XMI::UML2_I_RELATIONSHIP_CREATING_ERROR_DETAILED.log(*log, row.name);
   }

@@ -109,7 +109,7 @@ void XMIParser::completeObject(const ClassPlan& plan, const KYRString& tag, Made
   objects.add(element, false, nullptr);
   object.release();  // owned by `objects` from here on
   if (observer != nullptr) observer->element(*element, parser->getLine());
-  ids.enter(id, element);
+  ids.enter(id, {element, plan.kind});
   pushElement(element, id);
   noteReferences(id);
   tieToParent(plan, tag, id);
@@ -172,10 +172,10 @@ void XMIParser::tieToParent(const ClassPlan& plan, const KYRString& tag, IdTable
 // links of one kind, so every list gets its entries in the order in which they were noted.
 void XMIParser::noteLink(IdTable::Number first, IdTable::Number second, int kind) {
   if (observer == nullptr && !ids.isWaiting(first, kind) && !ids.isWaiting(second, kind)) {
-    UMLElement* const firstObject = ids.find(first);
-    UMLElement* const secondObject = ids.find(second);
-    if (firstObject != nullptr && secondObject != nullptr) {
-      linkRelationship(firstObject, secondObject, kind);
+    const IdTable::Bearer firstBearer = ids.find(first);
+    const IdTable::Bearer secondBearer = ids.find(second);
+    if (firstBearer.object != nullptr && secondBearer.object != nullptr) {
+      link(firstBearer, secondBearer, kind);
       return;
     }
   }
