@@ -40,6 +40,7 @@ void KYROmgUml2XmiImportBridge::release() noexcept {
   schemasByName_.clear();
   baseTypes_.clear();
   derivedTypes_.clear();
+  featureTypes_.clear();
   enumerationPasses_.clear();
   rolesByFarName_.clear();
   while (!associationClasses.empty()) associationClasses.pop_back();

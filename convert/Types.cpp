@@ -2,6 +2,8 @@
 // a type becomes a class type; everything else becomes a derived type, which rests on a base type.
 //
 // The first UML type to use a name decides all about the derived type of that name, length and scale.
+#include <array>
+
 #include "bridge/state/KYROmgUml2XmiImportBridge.h"
 #include "foundation/ShownText.h"
 #include "repository/bridgelib/KYRBridgeLib.h"
@@ -58,30 +60,46 @@ void KYROmgUml2XmiImportBridge::assignFeatureType(KYRObject* feature) {
 }
 // NOLINTEND(cppcoreguidelines-pro-type-static-cast-downcast)
 
-// Features, their elements, the types of those and their classes lie anywhere in memory: each is asked for
-// some features ahead of its use.
+// Features, their elements and the types of those lie anywhere in memory: each is asked for some features
+// ahead of its use.
 void KYROmgUml2XmiImportBridge::assignFeatureTypes() {
   constexpr unsigned int elementsAhead = 24;
-  constexpr unsigned int typesAhead = 16;
-  constexpr unsigned int classesAhead = 8;
-  const auto typeAt = [this](unsigned int index) -> const UMLType* {
-    const auto* const element = umlCast<UMLTypedElement>(typedFeatures.at(index)->umlElement);
-    return element != nullptr ? element->type : nullptr;
-  };
+  constexpr unsigned int typesAhead = 8;
+  constexpr unsigned int listsAhead = 4;
+  std::array<const KYRType*, typesAhead> coming{};
   const unsigned int count = typedFeatures.count();
   for (unsigned int i = 0; i < count; ++i) {
     if (i + elementsAhead < count) {
       __builtin_prefetch(typedFeatures.at(i + elementsAhead)->umlElement);
-      __builtin_prefetch(typeAt(i + typesAhead));
-      if (const UMLType* const type = typeAt(i + classesAhead)) __builtin_prefetch(type->repositoryObject);
+      if (const KYRType* const type = coming[(i + listsAhead) % typesAhead]) {
+        __builtin_prefetch(type->typedObjects.getCollection());
+      }
+      const KYRType* const type = knownTypeOf(*typedFeatures.at(i + typesAhead));
+      if (type != nullptr) __builtin_prefetch(&type->typedObjects);
+      coming[i % typesAhead] = type;
     }
     assignFeatureType(typedFeatures.at(i));
   }
 }
 
+// The type that the element type of a feature has become before; null when that is not known.
+const KYRType* KYROmgUml2XmiImportBridge::knownTypeOf(const KYRObject& feature) const {
+  const auto* const element = umlCast<UMLTypedElement>(feature.umlElement);
+  if (element == nullptr || element->type == nullptr) return nullptr;
+  const auto known = featureTypes_.find(element->type);
+  return known == featureTypes_.end() ? nullptr : known->second;
+}
+
 // All that has no type shares one that is undefined.
 KYRType* KYROmgUml2XmiImportBridge::typeOf(const UMLTypedElement* element) {
-  if (element != nullptr && element->type != nullptr) return convertType(element->type);
+  if (element != nullptr && element->type != nullptr) {
+    KYRType*& known = featureTypes_[element->type];
+    if (known != nullptr) return known;
+    KYRType* const type = convertType(element->type);
+    // What an enumeration becomes is made complete anew for each feature.
+    if (element->type->getKind() != UMLEnumeration::kind) known = type;
+    return type;
+  }
   return getDerivedType(undefinedName, KYRString::getEmptyString(), 0, 0, true);
 }
 

@@ -7,29 +7,28 @@ namespace {
 constexpr std::size_t firstSlots = 1024;
 }
 
-IdTable::IdTable() : entries_(1), slots_(firstSlots) {}
+IdTable::IdTable() : slots_(firstSlots) { addBlock(); }
+
+void IdTable::addBlock() { blocks_.push_back(std::make_unique<Entry[]>(blockSize)); }
 
 IdTable::Number IdTable::intern(const KYRString& id, std::uint32_t hash) {
   if (id.isEmpty()) return emptyId;
   Slot& place = slots_.seek(hash, [this, &id](const Slot& slot) {
-    const KYRString& known = entries_[slot.number].text;
+    const KYRString& known = getText(slot.number);
     return known.getCharacters() == id.getCharacters() || known == id;
   });
   if (!place.isFree()) return place.number;
-  entries_.emplace_back().text = shownText(id);
-  const auto number = static_cast<Number>(entries_.size() - 1);
-  slots_.claim(place, hash) = {hash, number};
-  return number;
+  if (count_ / blockSize == blocks_.size()) addBlock();
+  entry(count_).text = shownText(id);
+  slots_.claim(place, hash) = {hash, count_};
+  return count_++;
 }
 
-void IdTable::empty() {
-  std::vector<Entry>(1).swap(entries_);
-  slots_ = TextSlots<Slot>(firstSlots);
-}
+void IdTable::empty() { *this = IdTable(); }
 
 void IdTable::enter(Number id, const Bearer& bearer) noexcept {
-  Entry& entry = entries_[id];
-  if (id == emptyId || entry.object != nullptr) return;
-  entry.object = bearer.object;
-  entry.kindAndMarks |= static_cast<std::uint64_t>(bearer.kind) << markCount;
+  Entry& known = entry(id);
+  if (id == emptyId || known.object != nullptr) return;
+  known.object = bearer.object;
+  known.kindAndMarks |= static_cast<std::uint64_t>(bearer.kind) << markCount;
 }

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <vector>
 
 #include "foundation/KYRString.h"
@@ -36,12 +37,12 @@ class IdTable {
   /// Asks for the entry of an announced id.
   void approach(std::uint32_t hash) const noexcept {
     const Slot* const slot = slots_.guess(hash);
-    if (slot != nullptr) __builtin_prefetch(&entries_[slot->number]);
+    if (slot != nullptr) __builtin_prefetch(&entry(slot->number));
   }
   /// Asks for the characters of an approached id.
   void approachText(std::uint32_t hash) const noexcept {
     const Slot* const slot = slots_.guess(hash);
-    if (slot != nullptr) __builtin_prefetch(entries_[slot->number].text.getCharacters());
+    if (slot != nullptr) __builtin_prefetch(entry(slot->number).text.getCharacters());
   }
   /// An object and the number of its own class; null for an id that nobody bears.
   struct Bearer {
@@ -51,18 +52,16 @@ class IdTable {
   /// Enters an object under its id, unless one is there already or the id is empty.
   void enter(Number id, const Bearer& bearer) noexcept;
   /// Asks the processor for what `find` will read of that id.
-  void prefetch(Number id) const noexcept { __builtin_prefetch(&entries_[id]); }
+  void prefetch(Number id) const noexcept { __builtin_prefetch(&entry(id)); }
   /// The first object entered under the id.
   Bearer find(Number id) const noexcept {
-    return {entries_[id].object, static_cast<int>(entries_[id].kindAndMarks >> markCount)};
+    return {entry(id).object, static_cast<int>(entry(id).kindAndMarks >> markCount)};
   }
   /// Marks that a link of that relationship kind to the id waits.
-  void wait(Number id, int kind) noexcept { entries_[id].kindAndMarks |= markOf(kind); }
+  void wait(Number id, int kind) noexcept { entry(id).kindAndMarks |= markOf(kind); }
   /// Whether a link of that kind waits; may be true of a kind that shares its mark with another one.
-  bool isWaiting(Number id, int kind) const noexcept {
-    return (entries_[id].kindAndMarks & markOf(kind)) != 0;
-  }
-  const KYRString& getText(Number id) const noexcept { return entries_[id].text; }
+  bool isWaiting(Number id, int kind) const noexcept { return (entry(id).kindAndMarks & markOf(kind)) != 0; }
+  const KYRString& getText(Number id) const noexcept { return entry(id).text; }
   /// Forgets all ids and gives their memory back.
   void empty();
 
@@ -89,6 +88,12 @@ class IdTable {
     return TextSlots<Slot>::hashOf(id.view(), TextHash::seed());
   }
 
-  std::vector<Entry> entries_;
+  void addBlock();
+  Entry& entry(Number id) const noexcept { return blocks_[id / blockSize][id % blockSize]; }
+
+  // By blocks, so that a large table grows without moving.
+  static constexpr Number blockSize = 1024;
+  std::vector<std::unique_ptr<Entry[]>> blocks_;
+  Number count_ = 1;
   TextSlots<Slot> slots_;
 };

@@ -9,6 +9,8 @@
 #include <memory>
 #include <vector>
 
+#include "foundation/PreparedPages.h"
+
 class UMLObjectMemory {
  public:
   /// Room for an object of any class with virtual functions. It is there until `release`.
@@ -38,6 +40,7 @@ class UMLObjectMemory {
     const std::size_t size = std::max(needed, blockSize_);
     blocks_.push_back(std::make_unique_for_overwrite<std::byte[]>(size));
     next_ = blocks_.back().get();
+    preparePages(next_, size);
     left_ = size;
     blockSize_ = std::min(2 * blockSize_, largestBlock);
   }

@@ -313,6 +313,7 @@ class KYROmgUml2XmiImportBridge {
   void placePackagesAsSchemas();
   KYRType* typeOf(const UMLTypedElement* element);
   void assignFeatureTypes();
+  const KYRType* knownTypeOf(const KYRObject& feature) const;
   KYRDerivedType* derivedTypeOf(UMLType* element, int length, int scale);
   KYRDerivedType* convertEnumeration(UMLEnumeration* element);
   void addTypeValue(KYRDerivedType* type, UMLEnumerationLiteral* literal, KYRString& dataType);
@@ -336,6 +337,7 @@ class KYROmgUml2XmiImportBridge {
   std::unordered_map<std::string, KYRDatabaseSchema*> schemasByName_;  // names in small letters
   std::unordered_map<std::string, KYRConcreteType*> baseTypes_;
   std::unordered_map<const UMLType*, KYRDerivedType*> derivedTypes_;
+  std::unordered_map<const UMLType*, KYRType*> featureTypes_;
   std::unordered_map<const UMLEnumeration*, EnumerationPass> enumerationPasses_;
   // By class, and by the name of the far role in small letters.
   std::unordered_map<const KYRClass*, std::unordered_map<std::string, std::vector<KYRAssociationRole*>>>

@@ -16,6 +16,12 @@ class Saving {
   Saving(const KYRStoreModel& model, StoreModelWriter& writer)
       : numbers_(model, StoredNumbers::Listing::none), writer_(writer) {}
 
+  // What objects refer to lies anywhere in memory.
+  void expect(const KYRObject& object) {
+    for (const StoredField* field : StoredClasses::get(object.getElementType()).references) {
+      numbers_.prefetch(field->getReference(object));
+    }
+  }
   void enter(const KYRObject& object, const StoredClass& stored) {
     writer_.beginObject(++entered_, stored.name);  // the numbers follow the walk
     for (const StoredField* field : stored.values) write(object, *field);

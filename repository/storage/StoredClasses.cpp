@@ -82,6 +82,7 @@ void appendRows(StoredClass& stored, int elementType) {
     for (std::size_t i = 0; declared != nullptr && i < declared->count; ++i) {
       const bool isList = declared->rows[i].kind == StoredKind::children;
       (isList ? stored.lists : stored.values).push_back(&declared->rows[i]);
+      if (declared->rows[i].kind == StoredKind::reference) stored.references.push_back(&declared->rows[i]);
     }
   }
 }
@@ -93,7 +94,8 @@ struct Tables {
 
   Tables() {
     for (const Made& entry : made) {
-      StoredClass stored{entry.elementType, Type::getClassName(entry.elementType), entry.make, false, {}, {}};
+      StoredClass stored{
+          entry.elementType, Type::getClassName(entry.elementType), entry.make, false, {}, {}, {}};
       appendRows(stored, entry.elementType);
       byNumber[static_cast<std::size_t>(entry.elementType)] = classes.size();
       byName.emplace(stored.name, classes.size());

@@ -16,6 +16,8 @@ struct StoredClass {
   bool isElement;
   /// Texts, numbers, flags and references, those of base classes first.
   std::vector<const StoredField*> values;
+  /// Those of them that refer to one object.
+  std::vector<const StoredField*> references;
   /// The lists of children, in the same order.
   std::vector<const StoredField*> lists;
 };

@@ -7,7 +7,7 @@
 #include "repository/storage/StoredClasses.h"
 
 /// The visitor has `enter(object, class)`, `leave()`, `beginList(field)` and `endList()`. A list without
-/// entries is passed over.
+/// entries is passed over. A visitor that has `expect(object)` is told of most objects some time before.
 template <class Visitor>
 void walkStored(const KYRObject& root, Visitor& visitor) {
   struct Level {
@@ -35,6 +35,10 @@ void walkStored(const KYRObject& root, Visitor& visitor) {
     const unsigned int count = list == nullptr ? 0 : list->getCount();
     if (level.entry < count) {
       if (level.entry == 0) visitor.beginList(field);
+      if constexpr (requires { visitor.expect(root); }) {
+        constexpr unsigned int ahead = 6;
+        if (count - level.entry > ahead) visitor.expect(*(*list)[level.entry + ahead]);
+      }
       const KYRObject& child = *(*list)[level.entry++];
       enter(child);
     } else {
