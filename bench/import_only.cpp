@@ -14,7 +14,8 @@
 // As in the command, so that both are measured with the same allocator.
 extern "C" {
 // NOLINTNEXTLINE: the name is given
-[[gnu::visibility("default")]] const char* malloc_conf = "narenas:1,lg_extent_max_active_fit:20";
+[[gnu::visibility("default")]] const char* malloc_conf =
+    "narenas:1,lg_extent_max_active_fit:20,slab_sizes:1-1024:16";
 }
 
 namespace {

@@ -18,35 +18,34 @@ struct OpenPackage {
   UMLPackage* element;
   std::unique_ptr<KYRDesignPackage> object;
   std::vector<UMLNamedElement*> members;
-  std::size_t next = 0;
+  std::vector<UMLPackage*> packages;  // of the members
+  std::size_t next = 0;               // of the packages
 };
 
-template <class Entry, class List>
-std::vector<UMLNamedElement*> snapshot(const List& list) {
-  std::vector<UMLNamedElement*> members;
-  members.reserve(list.count());
-  for (Entry* member : list) members.push_back(member);
-  return members;
+template <class Visit>
+void visitMembers(const UMLPackage& package, Visit visit) {
+  if (package.packagedElement.isEmpty()) {
+    for (UMLNamedElement* member : package.ownedMember) visit(member);
+  } else {
+    for (UMLPackageableElement* member : package.packagedElement) visit(member);
+  }
+}
+
+std::size_t countMembers(const UMLPackage& package) {
+  return package.packagedElement.isEmpty() ? package.ownedMember.count() : package.packagedElement.count();
 }
 
 bool isTypeOfValues(const UMLNamedElement& member) {
   return member.getKind() == UMLEnumeration::kind || member.getKind() == UMLPrimitiveType::kind;
 }
 
-// The next member from `next` on that is a package, or null at the end.
-UMLPackage* nextPackage(OpenPackage& open) {
-  while (open.next < open.members.size()) {
-    UMLNamedElement* const member = open.members[open.next++];
-    if (member != nullptr && member->getKind() == UMLPackage::kind) return umlCast<UMLPackage>(member);
-  }
-  return nullptr;
-}
-
 }  // namespace
 
 std::vector<UMLNamedElement*> KYROmgUml2XmiImportBridge::getMembers(UMLPackage* package) {
-  return package->packagedElement.isEmpty() ? snapshot<UMLNamedElement>(package->ownedMember)
-                                            : snapshot<UMLPackageableElement>(package->packagedElement);
+  std::vector<UMLNamedElement*> members;
+  members.reserve(countMembers(*package));
+  visitMembers(*package, [&members](UMLNamedElement* member) { members.push_back(member); });
+  return members;
 }
 
 void KYROmgUml2XmiImportBridge::convertTopLevel() {
@@ -72,14 +71,23 @@ void KYROmgUml2XmiImportBridge::convertTopLevel() {
 std::unique_ptr<KYRDesignPackage> KYROmgUml2XmiImportBridge::convertPackage(UMLPackage* package) {
   std::vector<OpenPackage> open;
   std::unordered_set<const UMLPackage*> openElements;
+  // All members are read once here, since in a large package each of them lies far from the one before.
   const auto enterPackage = [&](UMLPackage* element) {
-    open.push_back({element, createPackage(element), getMembers(element)});
+    open.push_back({element, createPackage(element), {}, {}});
+    OpenPackage& entered = open.back();
+    entered.members.reserve(countMembers(*element));
+    visitMembers(*element, [&entered](UMLNamedElement* member) {
+      entered.members.push_back(member);
+      if (member == nullptr || member->getKind() != UMLPackage::kind) return;
+      entered.packages.push_back(umlCast<UMLPackage>(member));
+    });
     openElements.insert(element);
-    countSteps(static_cast<unsigned int>(2 * open.back().members.size()) + 1);
+    countSteps(static_cast<unsigned int>(2 * entered.members.size()) + 1);
   };
   enterPackage(package);
   for (;;) {
-    if (UMLPackage* const nested = nextPackage(open.back())) {
+    if (open.back().next < open.back().packages.size()) {
+      UMLPackage* const nested = open.back().packages[open.back().next++];
       // Packages that hold each other by reference: the one met again is passed over.
       if (openElements.count(nested) == 0) enterPackage(nested);
       continue;
@@ -87,7 +95,7 @@ std::unique_ptr<KYRDesignPackage> KYROmgUml2XmiImportBridge::convertPackage(UMLP
     OpenPackage done = std::move(open.back());
     open.pop_back();
     openElements.erase(done.element);
-    for (UMLNamedElement* member : getMembers(done.element)) {
+    for (UMLNamedElement* member : done.members) {
       if (member != nullptr) convertMember(member, done.object.get());
     }
     if (open.empty()) return std::move(done.object);
