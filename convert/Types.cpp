@@ -51,7 +51,7 @@ void KYROmgUml2XmiImportBridge::assignFeatureType(KYRObject* feature) {
     case KYRElementType::operation: {
       const auto* const element = umlCast<UMLOperation>(feature->umlElement);
       if (element == nullptr || element->type == nullptr) break;  // it returns nothing
-      static_cast<KYROperation&>(*feature).addReturnType(convertType(element->type));
+      static_cast<KYROperation&>(*feature).addReturnType(featureTypeOf(element->type));
       break;
     }
     default:
@@ -92,15 +92,17 @@ const KYRType* KYROmgUml2XmiImportBridge::knownTypeOf(const KYRObject& feature) 
 
 // All that has no type shares one that is undefined.
 KYRType* KYROmgUml2XmiImportBridge::typeOf(const UMLTypedElement* element) {
-  if (element != nullptr && element->type != nullptr) {
-    KYRType*& known = featureTypes_[element->type];
-    if (known != nullptr) return known;
-    KYRType* const type = convertType(element->type);
-    // What an enumeration becomes is made complete anew for each feature.
-    if (element->type->getKind() != UMLEnumeration::kind) known = type;
-    return type;
-  }
+  if (element != nullptr && element->type != nullptr) return featureTypeOf(element->type);
   return getDerivedType(undefinedName, KYRString::getEmptyString(), 0, 0, true);
+}
+
+KYRType* KYROmgUml2XmiImportBridge::featureTypeOf(UMLType* element) {
+  KYRType*& known = featureTypes_[element];
+  if (known != nullptr) return known;
+  KYRType* const type = convertType(element);
+  // What an enumeration becomes is made complete anew for each feature.
+  if (element->getKind() != UMLEnumeration::kind) known = type;
+  return type;
 }
 
 KYRType* KYROmgUml2XmiImportBridge::convertType(UMLType* element) {

@@ -20,7 +20,7 @@
 /// `std::uint32_t hash`, as `hashOf` gives it;
 /// `bool isFree() const`, true of `Slot()`: nothing is or was there;
 /// `bool isGone() const`: something was there, and what was entered later may stand behind it.
-/// References to slots are valid until `claim`.
+/// References to slots are valid until `claim`. Looking up counts, so it takes a table of one's own thread.
 template <class Slot>
 class TextSlots {
  public:
@@ -103,8 +103,7 @@ class TextSlots {
 
  private:
   static constexpr std::size_t lastCharacters = 2;
-  static constexpr std::size_t cacheLine = 64;
-  struct alignas(cacheLine) Group : std::array<Slot, groupSize> {};
+  using Group = std::array<Slot, groupSize>;
   static constexpr unsigned int checkBits = 8;  // below those of the group
 
   // The step is odd, so the walk meets every group.

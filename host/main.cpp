@@ -13,8 +13,7 @@
 // Read by jemalloc, if that is the allocator. One arena serves all threads, and it is there from the start:
 // the first allocation of a thread would make another, and jemalloc crashes when there is no memory left for
 // that. What the document of the file leaves is used for the model, in pieces of any size. Small objects come
-// by the hundred thousand, so their slabs are of sixteen pages, not of the one that has room for sixteen
-// classes.
+// by the hundred thousand, so their slabs are of up to sixteen pages: one page has room for sixteen classes.
 extern "C" {
 // NOLINTNEXTLINE: the name is given
 [[gnu::visibility("default")]] const char* malloc_conf =

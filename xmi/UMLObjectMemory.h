@@ -1,7 +1,8 @@
 // UMLObjectMemory: room for the UML objects of one file, in large blocks.
 //
 // A file has objects by the hundred thousand, which all go together. One behind the other in the order of
-// reading they take no more than their size, and those that belong together lie together.
+// reading they take no more than their size and the rest of the last block, and those that belong together
+// lie together.
 #pragma once
 
 #include <algorithm>

@@ -312,6 +312,7 @@ class KYROmgUml2XmiImportBridge {
   void placeTablesWithOwners();
   void placePackagesAsSchemas();
   KYRType* typeOf(const UMLTypedElement* element);
+  KYRType* featureTypeOf(UMLType* element);
   void assignFeatureTypes();
   const KYRType* knownTypeOf(const KYRObject& feature) const;
   KYRDerivedType* derivedTypeOf(UMLType* element, int length, int scale);
@@ -337,7 +338,8 @@ class KYROmgUml2XmiImportBridge {
   std::unordered_map<std::string, KYRDatabaseSchema*> schemasByName_;  // names in small letters
   std::unordered_map<std::string, KYRConcreteType*> baseTypes_;
   std::unordered_map<const UMLType*, KYRDerivedType*> derivedTypes_;
-  std::unordered_map<const UMLType*, KYRType*> featureTypes_;
+  std::unordered_map<const UMLType*, KYRType*>
+      featureTypes_;  // all classes are placed before the first entry
   std::unordered_map<const UMLEnumeration*, EnumerationPass> enumerationPasses_;
   // By class, and by the name of the far role in small letters.
   std::unordered_map<const KYRClass*, std::unordered_map<std::string, std::vector<KYRAssociationRole*>>>

@@ -30,7 +30,7 @@ class KYR_EXPORT KYRNameIndex {
   KYRObject* find(std::string_view name, Condition condition, int argument) const;
   void add(KYRObject* object);
   void remove(const KYRObject* object) noexcept;
-  /// Places looked at so far.
+  /// Groups of slots, and entries of lists of one name, looked at so far.
   std::uint64_t getProbeCount() const noexcept { return probes_ + slots_.getProbeCount(); }
 
  private:

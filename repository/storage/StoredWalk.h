@@ -7,7 +7,8 @@
 #include "repository/storage/StoredClasses.h"
 
 /// The visitor has `enter(object, class)`, `leave()`, `beginList(field)` and `endList()`. A list without
-/// entries is passed over. A visitor that has `expect(object)` is told of most objects some time before.
+/// entries is passed over. A visitor that has `expect(object)` is told of the objects of long lists some time
+/// before.
 template <class Visitor>
 void walkStored(const KYRObject& root, Visitor& visitor) {
   struct Level {

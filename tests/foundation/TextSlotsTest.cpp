@@ -4,9 +4,12 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <new>
 #include <random>
 #include <string>
 #include <vector>
+
+#include "tests/foundation/AllocationProbe.h"
 
 namespace {
 
@@ -81,7 +84,25 @@ TEST(TextSlots, GuessesAreRightUnlessTheGroupIsFull) {
   int right = 0;
   for (const std::string& text : texts) right += set.isGuessed(text) ? 1 : 0;
   EXPECT_GT(right, 800);
-  EXPECT_FALSE(set.isGuessed("other"));
+  ASSERT_TRUE(set.isGuessed(texts[0]));
+  set.remove(texts[0]);
+  EXPECT_FALSE(set.isGuessed(texts[0]));
+  EXPECT_FALSE(TextSet().isGuessed(texts[0]));
+}
+
+TEST(TextSlots, WithoutMemoryToGrowNothingIsLost) {
+  TextSet set;
+  std::vector<std::string> texts;
+  for (int i = 0; i < 11; ++i) texts.push_back("n" + std::to_string(i));
+  for (std::size_t i = 0; i < 10; ++i) set.add(texts[i]);
+  {
+    const AllocationFailure failure(0);
+    EXPECT_THROW(set.add(texts[10]), std::bad_alloc);
+  }
+  for (std::size_t i = 0; i < 10; ++i) EXPECT_TRUE(set.contains(texts[i]));
+  EXPECT_FALSE(set.contains(texts[10]));
+  set.add(texts[10]);
+  EXPECT_TRUE(set.contains(texts[10]));
 }
 
 using Texts = std::vector<std::string>;

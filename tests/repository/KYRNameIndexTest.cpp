@@ -72,7 +72,7 @@ TEST(KYRNameIndex, ManyOfOneNameCostNoMoreThanManyNames) {
       index.remove(object.get());
     }
     EXPECT_EQ(index.find("same"), nullptr);
-    EXPECT_LT(index.getProbeCount(), 20 * count);
+    EXPECT_LT(index.getProbeCount(), 6 * count);
   }
 }
 
