@@ -79,6 +79,7 @@ TEST(TextSlots, AgreesWithAMapOverManyChanges) {
 TEST(TextSlots, GuessesAreRightUnlessTheGroupIsFull) {
   TextSet set;
   std::vector<std::string> texts;
+  texts.reserve(1000);
   for (int i = 0; i < 1000; ++i) texts.push_back("Class" + std::to_string(i));
   for (const std::string& text : texts) set.add(text);
   int right = 0;
@@ -93,6 +94,7 @@ TEST(TextSlots, GuessesAreRightUnlessTheGroupIsFull) {
 TEST(TextSlots, WithoutMemoryToGrowNothingIsLost) {
   TextSet set;
   std::vector<std::string> texts;
+  texts.reserve(11);
   for (int i = 0; i < 11; ++i) texts.push_back("n" + std::to_string(i));
   for (std::size_t i = 0; i < 10; ++i) set.add(texts[i]);
   {
@@ -109,7 +111,11 @@ using Texts = std::vector<std::string>;
 
 Texts counted(const std::string& before, const std::string& behind) {
   Texts texts;
-  for (int i = 0; i < 200000; ++i) texts.push_back(before + std::to_string(i) + behind);
+  texts.reserve(200000);
+  for (int i = 0; i < 200000; ++i) {
+    texts.push_back(before);
+    texts.back().append(std::to_string(i)).append(behind);
+  }
   return texts;
 }
 

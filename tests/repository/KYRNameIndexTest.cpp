@@ -22,6 +22,7 @@ std::unique_ptr<KYRNote> note(const std::string& name) {
 
 TEST(KYRNameIndex, AgreesWithAMapOfListsOverManyChanges) {
   std::vector<std::unique_ptr<KYRNote>> objects;
+  objects.reserve(600);
   for (int i = 0; i < 600; ++i) objects.push_back(note("n" + std::to_string(i / 3)));
   std::map<std::string, std::vector<const KYRObject*>> expected;
   std::vector<bool> isIn(objects.size());
