@@ -337,9 +337,10 @@ class KYROmgUml2XmiImportBridge {
   std::unordered_map<const KYRClass*, KYRGeneralization*> generalizationsBySuper_;
   std::unordered_map<std::string, KYRDatabaseSchema*> schemasByName_;  // names in small letters
   std::unordered_map<std::string, KYRConcreteType*> baseTypes_;
+  // The second is filled when all classes are placed and stay. It holds no enumerations, which are completed
+  // anew for each feature.
   std::unordered_map<const UMLType*, KYRDerivedType*> derivedTypes_;
-  std::unordered_map<const UMLType*, KYRType*>
-      featureTypes_;  // all classes are placed before the first entry
+  std::unordered_map<const UMLType*, KYRType*> featureTypes_;
   std::unordered_map<const UMLEnumeration*, EnumerationPass> enumerationPasses_;
   // By class, and by the name of the far role in small letters.
   std::unordered_map<const KYRClass*, std::unordered_map<std::string, std::vector<KYRAssociationRole*>>>
