@@ -39,8 +39,6 @@ void KYROmgUml2XmiImportBridge::release() noexcept {
   recordsByElement_.clear();
   schemasByName_.clear();
   baseTypes_.clear();
-  derivedTypes_.clear();
-  featureTypes_.clear();
   enumerationPasses_.clear();
   rolesByFarName_.clear();
   while (!associationClasses.empty()) associationClasses.pop_back();

@@ -43,7 +43,9 @@ void readSpecification(const UMLValueSpecification& specification, KYRTypeValue&
 }  // namespace
 
 KYRDerivedType* KYROmgUml2XmiImportBridge::convertEnumeration(UMLEnumeration* element) {
-  KYRDerivedType* const type = derivedTypeOf(element, 0, 0);
+  // The type that an enumeration has found or made once is the one that it would find again.
+  KYRDerivedType*& type = enumerationPasses_[element].type;
+  if (type == nullptr) type = getDerivedType(element->name, element->id, 0, 0, true);
   type->umlElement = element;
   convertEnumerationLiterals(type);
   ensureBaseType(type);
@@ -54,13 +56,13 @@ void KYROmgUml2XmiImportBridge::convertEnumerationLiterals(KYRDerivedType* type)
   const auto* const element = umlCast<UMLEnumeration>(type->umlElement);
   if (element == nullptr) return;
   EnumerationPass& pass = enumerationPasses_[element];
-  if (pass.type != type) {
+  if (pass.filled != type) {
     pass.dataType.empty();
     for (UMLEnumerationLiteral* literal : element->ownedLiteral) {
       if (literal == nullptr || literal->getKind() != UMLEnumerationLiteral::kind) continue;
       addTypeValue(type, literal, pass.dataType);
     }
-    pass.type = type;
+    pass.filled = type;
   }
   if (!pass.dataType.isEmpty()) type->dataType = pass.dataType;  // the last literal that has one decides
 }

@@ -36,72 +36,79 @@ KYRString buildLogicalName(const KYRString& typeName, int length, int scale) {
   return name;
 }
 
+// The UML type of an attribute or argument, and what an operation returns; null where there is none.
+UMLType* typeElementOf(const KYRObject& feature) {
+  if (feature.getElementType() == KYRElementType::operation) {
+    const auto* const operation = umlCast<UMLOperation>(feature.umlElement);
+    return operation == nullptr ? nullptr : operation->type;
+  }
+  const auto* const element = umlCast<UMLTypedElement>(feature.umlElement);
+  return element == nullptr ? nullptr : element->type;
+}
+
 }  // namespace
+
+void KYROmgUml2XmiImportBridge::assignFeatureType(KYRObject* feature) {
+  assignType(*feature, typeElementOf(*feature));
+}
 
 // The element type is the class, so the casts need no check; there is one for each feature of a model.
 // NOLINTBEGIN(cppcoreguidelines-pro-type-static-cast-downcast)
-void KYROmgUml2XmiImportBridge::assignFeatureType(KYRObject* feature) {
-  switch (feature->getElementType()) {
+void KYROmgUml2XmiImportBridge::assignType(KYRObject& feature, UMLType* element) {
+  switch (feature.getElementType()) {
     case KYRElementType::attribute:
-      static_cast<KYRAttribute&>(*feature).addType(typeOf(umlCast<UMLTypedElement>(feature->umlElement)));
+      static_cast<KYRAttribute&>(feature).addType(featureTypeOf(element));
       break;
     case KYRElementType::argument:
-      static_cast<KYRArgument&>(*feature).addType(typeOf(umlCast<UMLTypedElement>(feature->umlElement)));
+      static_cast<KYRArgument&>(feature).addType(featureTypeOf(element));
       break;
-    case KYRElementType::operation: {
-      const auto* const element = umlCast<UMLOperation>(feature->umlElement);
-      if (element == nullptr || element->type == nullptr) break;  // it returns nothing
-      static_cast<KYROperation&>(*feature).addReturnType(featureTypeOf(element->type));
+    case KYRElementType::operation:
+      // One without a type returns nothing.
+      if (element != nullptr) static_cast<KYROperation&>(feature).addReturnType(featureTypeOf(element));
       break;
-    }
     default:
       break;
   }
 }
 // NOLINTEND(cppcoreguidelines-pro-type-static-cast-downcast)
 
-// Features, their elements and the types of those lie anywhere in memory: each is asked for some features
-// ahead of its use.
+// Features, their elements, the types of those, and what these have become lie anywhere in memory: each is
+// asked for some features ahead of its use.
 void KYROmgUml2XmiImportBridge::assignFeatureTypes() {
-  constexpr unsigned int elementsAhead = 24;
-  constexpr unsigned int typesAhead = 8;
-  constexpr unsigned int listsAhead = 4;
-  std::array<const KYRType*, typesAhead> coming{};
+  constexpr unsigned int stage = 6;  // features from one question to the next
+  constexpr unsigned int elementsAhead = 4 * stage;
+  constexpr unsigned int typeElementsAhead = 3 * stage;
+  constexpr unsigned int typesAhead = 2 * stage;
+  constexpr unsigned int listsAhead = stage;
+  std::array<UMLType*, typeElementsAhead + 1> ring{};
+  const auto coming = [&ring](unsigned int at) -> UMLType*& { return ring[at % ring.size()]; };
   const unsigned int count = typedFeatures.count();
-  for (unsigned int i = 0; i < count; ++i) {
-    if (i + elementsAhead < count) {
-      __builtin_prefetch(typedFeatures.at(i + elementsAhead)->umlElement);
-      if (const KYRType* const type = coming[(i + listsAhead) % typesAhead]) {
+  for (unsigned int ahead = 0; ahead < count + elementsAhead; ++ahead) {
+    if (ahead < count) __builtin_prefetch(typedFeatures.at(ahead)->umlElement);
+    const unsigned int at = ahead - elementsAhead;  // wraps to beyond the end while there is none
+    if (const unsigned int next = at + typeElementsAhead; next < count) {
+      coming(next) = typeElementOf(*typedFeatures.at(next));
+      if (coming(next) != nullptr) __builtin_prefetch(&coming(next)->repositoryType);
+    }
+    if (const unsigned int next = at + typesAhead; next < count && coming(next) != nullptr) {
+      if (const KYRType* const type = coming(next)->repositoryType) __builtin_prefetch(&type->typedObjects);
+    }
+    if (const unsigned int next = at + listsAhead; next < count && coming(next) != nullptr) {
+      if (const KYRType* const type = coming(next)->repositoryType) {
         __builtin_prefetch(type->typedObjects.getCollection());
       }
-      const KYRType* const type = knownTypeOf(*typedFeatures.at(i + typesAhead));
-      if (type != nullptr) __builtin_prefetch(&type->typedObjects);
-      coming[i % typesAhead] = type;
     }
-    assignFeatureType(typedFeatures.at(i));
+    if (at < count) assignType(*typedFeatures.at(at), coming(at));
   }
 }
 
-// The type that the element type of a feature has become before; null when that is not known.
-const KYRType* KYROmgUml2XmiImportBridge::knownTypeOf(const KYRObject& feature) const {
-  const auto* const element = umlCast<UMLTypedElement>(feature.umlElement);
-  if (element == nullptr || element->type == nullptr) return nullptr;
-  const auto known = featureTypes_.find(element->type);
-  return known == featureTypes_.end() ? nullptr : known->second;
-}
-
-// All that has no type shares one that is undefined.
-KYRType* KYROmgUml2XmiImportBridge::typeOf(const UMLTypedElement* element) {
-  if (element != nullptr && element->type != nullptr) return featureTypeOf(element->type);
-  return getDerivedType(undefinedName, KYRString::getEmptyString(), 0, 0, true);
-}
-
+// Features without a type share one that is undefined.
 KYRType* KYROmgUml2XmiImportBridge::featureTypeOf(UMLType* element) {
-  KYRType*& known = featureTypes_[element];
-  if (known != nullptr) return known;
+  if (element == nullptr) return getDerivedType(undefinedName, KYRString::getEmptyString(), 0, 0, true);
+  if (element->repositoryType != nullptr) return element->repositoryType;
   KYRType* const type = convertType(element);
   // What an enumeration becomes is made complete anew for each feature.
-  if (element->getKind() != UMLEnumeration::kind) known = type;
+  if (element->getKind() != UMLEnumeration::kind) element->repositoryType = type;
   return type;
 }
 
@@ -113,14 +120,7 @@ KYRType* KYROmgUml2XmiImportBridge::convertType(UMLType* element) {
     if (KYRClass* const typeClass = KYRClass::from(element->repositoryObject)) return getClassType(typeClass);
   }
   // A class that was dropped lives on here, as a type of its name.
-  return derivedTypeOf(element, element->length, element->scale);
-}
-
-// The type that an element has found or made once is the one that it would find again.
-KYRDerivedType* KYROmgUml2XmiImportBridge::derivedTypeOf(UMLType* element, int length, int scale) {
-  KYRDerivedType*& known = derivedTypes_[element];
-  if (known == nullptr) known = getDerivedType(element->name, element->id, length, scale, true);
-  return known;
+  return getDerivedType(element->name, element->id, element->length, element->scale, true);
 }
 
 KYRDerivedType* KYROmgUml2XmiImportBridge::getDerivedType(const KYRString& typeName,

@@ -4,6 +4,8 @@
 #include "uml/UMLElement.h"
 #include "uml/UMLKinds.h"
 
+class KYRType;
+
 class UMLComment : public virtual UMLElement {
  public:
   UML_CLASS_IDENTITY(UMLComment, 1)
@@ -86,6 +88,7 @@ class UMLType : public virtual UMLPackageableElement {
   UMLPackage* package = nullptr;
   int length = 0;
   int scale = 0;
+  KYRType* repositoryType = nullptr;  // what the conversion gives to features of this type
 };
 
 class UMLTypedElement : public virtual UMLNamedElement {

@@ -311,11 +311,9 @@ class KYROmgUml2XmiImportBridge {
   KYRGeneralization* createGeneralization(UMLElement* cause, KYRClass* super);
   void placeTablesWithOwners();
   void placePackagesAsSchemas();
-  KYRType* typeOf(const UMLTypedElement* element);
   KYRType* featureTypeOf(UMLType* element);
+  void assignType(KYRObject& feature, UMLType* element);
   void assignFeatureTypes();
-  const KYRType* knownTypeOf(const KYRObject& feature) const;
-  KYRDerivedType* derivedTypeOf(UMLType* element, int length, int scale);
   KYRDerivedType* convertEnumeration(UMLEnumeration* element);
   void addTypeValue(KYRDerivedType* type, UMLEnumerationLiteral* literal, KYRString& dataType);
   void ensureBaseType(KYRDerivedType* type);
@@ -328,7 +326,8 @@ class KYROmgUml2XmiImportBridge {
 
   // The type that an enumeration has filled, and the data type that its literals tell.
   struct EnumerationPass {
-    const KYRDerivedType* type = nullptr;
+    KYRDerivedType* type = nullptr;          // what the enumeration becomes
+    const KYRDerivedType* filled = nullptr;  // the type that has its literals
     KYRString dataType;
   };
 
@@ -337,10 +336,6 @@ class KYROmgUml2XmiImportBridge {
   std::unordered_map<const KYRClass*, KYRGeneralization*> generalizationsBySuper_;
   std::unordered_map<std::string, KYRDatabaseSchema*> schemasByName_;  // names in small letters
   std::unordered_map<std::string, KYRConcreteType*> baseTypes_;
-  // The second is filled when all classes are placed and stay. It holds no enumerations, which are completed
-  // anew for each feature.
-  std::unordered_map<const UMLType*, KYRDerivedType*> derivedTypes_;
-  std::unordered_map<const UMLType*, KYRType*> featureTypes_;
   std::unordered_map<const UMLEnumeration*, EnumerationPass> enumerationPasses_;
   // By class, and by the name of the far role in small letters.
   std::unordered_map<const KYRClass*, std::unordered_map<std::string, std::vector<KYRAssociationRole*>>>
