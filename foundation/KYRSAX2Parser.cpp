@@ -1,6 +1,8 @@
 // KYRSAX2Parser: hands the events of a document on to the callbacks while the document grows.
 #include "foundation/KYRSAX2Parser.h"
 
+#include <vector>
+
 #include "foundation/xml/XmlDocumentReader.h"
 #include "foundation/xml/XmlPosition.h"
 
@@ -10,11 +12,24 @@ class KYRSAX2Parser::State final : public XmlDocumentListener {
         FourthCallback fourth) noexcept
       : userData_(userData), start_(start), end_(end), characters_(text), fourth_(fourth) {}
 
+  void lookAhead(WantedCallback wanted, ComingCallback coming) noexcept {
+    isWanted_ = wanted;
+    coming_ = coming;
+  }
   void parse(const KYRFile& file) { readXmlFile(file, this, fourth_ != nullptr); }
 
   void startDocument(const std::shared_ptr<const XmlDocument>& document) override {
     document_ = document;
     lastElement_ = XmlDocument::noNode;
+    wanted_.clear();
+  }
+  void expect(XmlDocument::Node node) override {
+    if (coming_ == nullptr) return;
+    for (std::uint32_t index = 0; index < document_->getAttributeCount(node); ++index) {
+      if (isWanted(document_->getAttributeName(node, index))) {
+        coming_(userData_, document_->getAttributeValue(node, index));
+      }
+    }
   }
   void startElement(XmlDocument::Node node) override {
     lastElement_ = node;
@@ -47,11 +62,24 @@ class KYRSAX2Parser::State final : public XmlDocumentListener {
   const std::shared_ptr<const XmlDocument>& getDocument() const noexcept { return document_; }
 
  private:
+  enum class Answer : unsigned char { unknown, no, yes };
+  bool isWanted(XmlDocument::Name name) {
+    if (name >= wanted_.size()) wanted_.resize(std::size_t{name} + 1, Answer::unknown);
+    Answer& answer = wanted_[name];
+    if (answer == Answer::unknown) {
+      answer = isWanted_(userData_, document_->getNameText(name)) ? Answer::yes : Answer::no;
+    }
+    return answer == Answer::yes;
+  }
+
   void* userData_;
   StartCallback start_;
   EndCallback end_;
   CharactersCallback characters_;
   FourthCallback fourth_;
+  WantedCallback isWanted_ = nullptr;
+  ComingCallback coming_ = nullptr;
+  std::vector<Answer> wanted_;  // by attribute name
   std::shared_ptr<const XmlDocument> document_;
   XmlDocument::Node lastElement_ = XmlDocument::noNode;
   KYRStringArray attributes_;  // of the element under way; its room serves all of them
@@ -62,6 +90,10 @@ KYRSAX2Parser::KYRSAX2Parser(void* userData, KYRLog*, StartCallback start, EndCa
     : state_(std::make_unique<State>(userData, start, end, characters, fourth)) {}
 
 KYRSAX2Parser::~KYRSAX2Parser() = default;
+
+void KYRSAX2Parser::lookAhead(WantedCallback isWanted, ComingCallback coming) {
+  state_->lookAhead(isWanted, coming);
+}
 
 void KYRSAX2Parser::parseFile(const KYRFile& file) { state_->parse(file); }
 

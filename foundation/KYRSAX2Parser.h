@@ -22,6 +22,8 @@ class KYR_EXPORT KYRSAX2Parser {
   using EndCallback = void (*)(void* userData, const KYRString& tag);
   using CharactersCallback = void (*)(void* userData, const KYRString& text);
   using FourthCallback = void (*)(void* userData, const KYRString& target, const KYRString& data);
+  using WantedCallback = bool (*)(void* userData, const KYRString& attribute);
+  using ComingCallback = void (*)(void* userData, const KYRString& value);
 
   /// Any callback may be null. The fourth one receives processing instructions.
   KYRSAX2Parser(void* userData, KYRLog* log, StartCallback start, EndCallback end,
@@ -29,6 +31,11 @@ class KYR_EXPORT KYRSAX2Parser {
   KYRSAX2Parser(const KYRSAX2Parser&) = delete;
   KYRSAX2Parser& operator=(const KYRSAX2Parser&) = delete;
   ~KYRSAX2Parser();
+
+  /// Lets `coming` be told, in order, of the values of the attributes that `isWanted`, some elements before
+  /// the start callback gets them: of most values where it pays, of none in small files. `isWanted` is asked
+  /// once for each attribute name of a file. For callbacks that can ask memory for what they will need.
+  void lookAhead(WantedCallback isWanted, ComingCallback coming);
 
   /// Streams the file. Tags and attribute names arrive as written, prefix included; attribute
   /// names and values in turn. All texts are borrowed views that live until the next `parseFile` of this

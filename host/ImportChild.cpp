@@ -113,6 +113,7 @@ int ImportChild::import() {
   PluginLibrary library;
   ImportCommand::Settings settings = settings_;
   settings.isQuiet = true;  // the parent tells the result
+  settings.isResultWanted = !settings_.isQuiet;
   settings.logFile.clear();
   KYRImportProgress::setCurrent(channels_->progress.get());
   ImportCommand command(settings, library, output, log);

@@ -72,7 +72,8 @@ int ImportCommand::run() {
   KYROptionList options;
   fillOptions(options);
   const PhaseReport phases(settings_.withTiming);
-  const ModelSaver saver = makeSaver();
+  ModelSaver saver = makeSaver();
+  if (settings_.isQuiet && !settings_.isResultWanted) saver.skipCounting();
   TraceFile trace(settings_.traceFile);
   ProgressWatch progress(!settings_.isQuiet && settings_.format == HostLog::Format::text);
   // A database needs memory while it is made, and is given that of the objects that were read.

@@ -34,6 +34,7 @@ class ImportCommand {
     bool isAppending = false;
     NormalizeChoice normalize;
     bool isQuiet = false;
+    bool isResultWanted = false;  // somebody asks for the result of a quiet import, too
     bool withTiming = false;
     HostLog::Format format = HostLog::Format::text;
   };

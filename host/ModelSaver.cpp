@@ -36,6 +36,6 @@ void ModelSaver::save(const KYRFile& file, const KYRStoreModel& model) {
   } else {
     saveStoreModelFile(file, model, format_);
   }
-  counts_ = SavedModelCounts::of(model);
+  if (isCounting_) counts_ = SavedModelCounts::of(model);
   MemoryAtEnd::leaveToSystem(true);  // nothing is made of the model any more
 }

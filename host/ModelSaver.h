@@ -21,12 +21,15 @@ class ModelSaver final : public StoreModelSaver {
   ~ModelSaver() override;
 
   void save(const KYRFile& file, const KYRStoreModel& model) override;
-  /// Nothing when no model has been saved yet.
+  /// Spares a walk over each model where nobody asks for the counts.
+  void skipCounting() noexcept { isCounting_ = false; }
+  /// Nothing when no model has been counted yet.
   const std::optional<SavedModelCounts>& getCounts() const noexcept { return counts_; }
 
  private:
   StoreModelFormat format_;
   bool isAppending_ = false;
+  bool isCounting_ = true;
   Output* output_ = nullptr;
   std::optional<SavedModelCounts> counts_;
 };

@@ -23,26 +23,25 @@ class IdTable {
   IdTable();
   /// The number of that id. A borrowed text must live as long as this table.
   Number intern(const KYRString& id) { return intern(id, hashOf(id)); }
-  /// As above, with the hash that `announce` has given for that id.
+  /// As above, with the id's hash.
   Number intern(const KYRString& id, std::uint32_t hash);
-  /// Tells that an id will be interned soon, and gives its hash. Looking up an id waits for memory three
-  /// times, for its slot, its entry and its text: whoever announces first, calls `approach` and
-  /// `approachText` later, and has other things to do between, waits for none of them.
-  std::uint32_t announce(const KYRString& id) const noexcept {
-    if (id.isEmpty()) return 0;
-    const std::uint32_t hash = hashOf(id);
-    slots_.prefetch(hash);
-    return hash;
+  static std::uint32_t hashOf(const KYRString& id) noexcept {
+    return TextSlots<Slot>::hashOf(id.view(), TextHash::seed());
   }
-  /// Asks for the entry of an announced id.
-  void approach(std::uint32_t hash) const noexcept {
+  /// Asks the processor for what `intern` and `find` will read for the id of that hash. Each reads what the
+  /// one before it has asked for.
+  void prefetchSlot(std::uint32_t hash) const noexcept { slots_.prefetch(hash); }
+  void prefetchEntry(std::uint32_t hash) const noexcept {
     const Slot* const slot = slots_.guess(hash);
     if (slot != nullptr) __builtin_prefetch(&entry(slot->number));
   }
-  /// Asks for the characters of an approached id.
-  void approachText(std::uint32_t hash) const noexcept {
+  void prefetchText(std::uint32_t hash) const noexcept {
     const Slot* const slot = slots_.guess(hash);
     if (slot != nullptr) __builtin_prefetch(entry(slot->number).text.getCharacters());
+  }
+  void prefetchBearer(std::uint32_t hash) const noexcept {
+    const Slot* const slot = slots_.guess(hash);
+    if (slot != nullptr) __builtin_prefetch(entry(slot->number).object);
   }
   /// An object and the number of its own class; null for an id that nobody bears.
   struct Bearer {
@@ -84,10 +83,6 @@ class IdTable {
     bool isFree() const noexcept { return number == emptyId; }
     static constexpr bool isGone() noexcept { return false; }
   };
-  static std::uint32_t hashOf(const KYRString& id) noexcept {
-    return TextSlots<Slot>::hashOf(id.view(), TextHash::seed());
-  }
-
   void addBlock();
   Entry& entry(Number id) const noexcept { return blocks_[id / blockSize][id % blockSize]; }
 

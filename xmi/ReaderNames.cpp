@@ -21,9 +21,11 @@ ReaderNames::ReaderNames() {
   name = add(XMINames::name);
   for (const auto& row : UMLMetamodel::scalarRows) add(row.name);
   for (const auto& row : UMLMetamodel::linkRows) {
-    if (row.first.role != nullptr) add(row.first.role);
-    if (row.second.role != nullptr) add(row.second.role);
+    if (row.first.role != nullptr) markId(add(row.first.role));
+    if (row.second.role != nullptr) markId(add(row.second.role));
   }
+  markId(id);
+  markId(idref);
 }
 
 int ReaderNames::add(std::string_view text) {
@@ -33,6 +35,7 @@ int ReaderNames::add(std::string_view text) {
   nextInBucket_.push_back(bucket);
   bucket = static_cast<std::int16_t>(names_.size());
   names_.push_back(text);
+  holdIds_.push_back(false);
   longest_ = std::max(longest_, text.size());
   return bucket;
 }

@@ -20,6 +20,10 @@ class ReaderNames {
   int find(std::string_view text) const noexcept;
   /// The same without regard to case.
   int findIgnoringCase(std::string_view text) const noexcept;
+  /// Whether attributes of that name hold an id, the element's own or another one's; false of `none`.
+  bool holdsId(int number) const noexcept {
+    return number != none && holdIds_[static_cast<unsigned int>(number)];
+  }
   std::string_view getName(int number) const noexcept { return names_[static_cast<unsigned int>(number)]; }
   int getCount() const noexcept { return static_cast<int>(names_.size()); }
 
@@ -32,10 +36,12 @@ class ReaderNames {
  private:
   ReaderNames();
   int add(std::string_view text);
+  void markId(int number) { holdIds_[static_cast<unsigned int>(number)] = true; }
   static unsigned int bucketOf(std::string_view text) noexcept;
 
   static constexpr unsigned int bucketCount = 1024;
   std::vector<std::string_view> names_;
+  std::vector<bool> holdIds_;
   std::vector<std::int16_t> nextInBucket_;
   std::int16_t buckets_[bucketCount];
   std::size_t longest_ = 0;

@@ -49,6 +49,7 @@ UMLModel* XMIParser::parse(const KYRFile& input) {
     if (parser == nullptr) {
       parser = std::make_unique<KYRSAX2Parser>(this, log, &startCallback, &endCallback, &charactersCallback,
                                                nullptr);
+      parser->lookAhead(&isIdCallback, &comingIdCallback);
     }
     parser->parseFile(file);
     texts = parser->getDocument()->getTexts();

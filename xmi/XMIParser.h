@@ -22,6 +22,7 @@
 #include "uml/UMLKindPool.h"
 #include "uml/UMLMadeObjects.h"
 #include "xmi/AttributeScan.h"
+#include "xmi/ComingIds.h"
 #include "xmi/IdTable.h"
 #include "xmi/PendingLink.h"
 #include "xmi/TagHandler.h"
@@ -104,7 +105,6 @@ class XMIParser {
   /// A reference of the element being started.
   struct Reference {
     const KYRString* id;
-    std::uint32_t hash;
     int position;  // in the plan
     int linkKind;
   };
@@ -117,6 +117,8 @@ class XMIParser {
   static void startCallback(void* userData, const KYRString& tag, const KYRStringArray& attributes);
   static void endCallback(void* userData, const KYRString& tag);
   static void charactersCallback(void* userData, const KYRString& chunk);
+  static bool isIdCallback(void* userData, const KYRString& attribute);
+  static void comingIdCallback(void* userData, const KYRString& id);
   void startTag(const KYRString& tag, const KYRStringArray& attributes);
   void endTag(const KYRString& tag);
   TagHandler* chooseRowByTag(const KYRString& tag) const;
@@ -133,10 +135,11 @@ class XMIParser {
   // What readers share. The attributes are those of the element being started.
   const KYRString& attribute(int name) const noexcept { return scan.get(name); }
   void readPlan(const ClassPlan& plan, const KYRString& tag);
+  IdTable::Number numberOf(const KYRString& id) { return ids.intern(id, comingIds.hashOf(id)); }
   MadeObject makeObject(const ClassPlan& plan, const KYRString& id, const KYRString& name);
   void completeObject(const ClassPlan& plan, const KYRString& tag, MadeObject object, IdTable::Number id);
   void readScalars(const ClassPlan& plan, UMLElement& element);
-  void announceReferences(const ClassPlan& plan);
+  void findReferences(const ClassPlan& plan);
   void noteReferences(IdTable::Number id);
   void tieToParent(const ClassPlan& plan, const KYRString& tag, IdTable::Number id);
   // As `linkRelationship`; nothing is read of the objects but what is filled in.
@@ -177,6 +180,7 @@ class XMIParser {
   UMLModel* model = nullptr;
 
   IdTable ids;
+  ComingIds comingIds{ids};
   UMLKindPool kinds;
   UMLMadeObjects madeObjects;  // made by the tool extension; they outlive `objects`
   AttributeScan scan;

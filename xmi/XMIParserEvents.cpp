@@ -25,6 +25,16 @@ void XMIParser::charactersCallback(void* userData, const KYRString& chunk) {
   }
 }
 
+bool XMIParser::isIdCallback(void* /*userData*/, const KYRString& attribute) {
+  const ReaderNames& names = ReaderNames::get();
+  return names.holdsId(names.findIgnoringCase(attribute.view()));
+}
+
+void XMIParser::comingIdCallback(void* userData, const KYRString& id) {
+  auto& self = *static_cast<XMIParser*>(userData);
+  if (self.skipDepth == 0) self.comingIds.expect(id);
+}
+
 void XMIParser::startTag(const KYRString& writtenTag, const KYRStringArray& attributes) {
   static const KYRString modelTag(XMINames::umlModel);
   static const KYRString packageTag(XMINames::umlPackage);

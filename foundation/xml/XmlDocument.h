@@ -12,9 +12,9 @@
 #include <cstdint>
 #include <memory>
 
+#include "foundation/BlockArray.h"
 #include "foundation/Export.h"
 #include "foundation/KYRString.h"
-#include "foundation/xml/XmlBlockArray.h"
 #include "foundation/xml/XmlNameTable.h"
 #include "foundation/xml/XmlTextArena.h"
 
@@ -87,9 +87,9 @@ class KYR_EXPORT XmlDocument {
     std::uint32_t value;  // number of the text
   };
 
-  XmlBlockArray<NodeRecord> nodes_;  // one more than nodes: the sentinel ends the last attribute range
-  XmlBlockArray<AttributeRecord> attributes_;
-  XmlBlockArray<KYRString> texts_;
+  BlockArray<NodeRecord> nodes_;  // one more than nodes: the sentinel ends the last attribute range
+  BlockArray<AttributeRecord> attributes_;
+  BlockArray<KYRString> texts_;
   XmlNameTable names_;
   std::shared_ptr<XmlTextArena> arena_;
   std::shared_ptr<const XmlDocument> source_;  // a rewritten document shares the texts of this one

@@ -238,7 +238,7 @@ void XmlDocumentEditor::buildAlike() {
 }
 
 void XmlDocumentEditor::buildAnew() {
-  XmlBlockArray<XmlDocument::NodeRecord>& made = result_->nodes_;
+  BlockArray<XmlDocument::NodeRecord>& made = result_->nodes_;
   Node open = noNode;  // in the result
   for (Node node = 0; node != noNode;) {
     const Node copy = static_cast<Node>(made.size());
@@ -261,7 +261,7 @@ void XmlDocumentEditor::buildAnew() {
 void XmlDocumentEditor::copyNode(Node node, Node parent, Node end) {
   const Head head = headOf(node);
   const XmlDocument::NodeRecord& origin = source_->nodes_[originOf(node)];
-  XmlBlockArray<AttributeRecord>& attributes = result_->attributes_;
+  BlockArray<AttributeRecord>& attributes = result_->attributes_;
   result_->nodes_.emplaceBack(head.name, parent, end, static_cast<std::uint32_t>(attributes.size()),
                               origin.lineOrText, origin.column);
   if (head.firstAttribute < sourceAttributes_) {

@@ -14,6 +14,9 @@ class KYR_EXPORT XmlDocumentListener {
   virtual ~XmlDocumentListener();
   /// Comes first. What the document holds so far stays valid while it grows.
   virtual void startDocument(const std::shared_ptr<const XmlDocument>& document) = 0;
+  /// Tells of most elements some events before they start, so that a listener can ask memory for what it will
+  /// need. Its reading may fail before that, or be ended by the listener.
+  virtual void expect(XmlDocument::Node /*element*/) {}
   /// Name, attributes, parent and position of the node are known; its end is not.
   virtual void startElement(XmlDocument::Node node) = 0;
   virtual void endElement(XmlDocument::Node node) = 0;

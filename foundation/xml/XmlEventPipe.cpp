@@ -40,6 +40,7 @@ void XmlEventPipe::close(const std::exception_ptr& failure) noexcept {
 }
 
 void XmlEventPipe::follow(const XmlDocument& document, XmlDocumentListener& listener) {
+  constexpr std::size_t ahead = 24;
   XmlDocument::Node open = XmlDocument::noNode;
   for (std::size_t number = 0;; ++number) {
     {
@@ -55,6 +56,10 @@ void XmlEventPipe::follow(const XmlDocument& document, XmlDocumentListener& list
     const Batch& current = batch(number);
     for (std::size_t at = 0; at < current.count; ++at) {
       const Event event = current.events[at];
+      if (at + ahead < current.count) {
+        const Event coming = current.events[at + ahead];
+        if (coming != XmlDocument::noNode && document.isElement(coming)) listener.expect(coming);
+      }
       if (event == XmlDocument::noNode) {
         listener.endElement(open);
         open = document.getParent(open);

@@ -9,9 +9,9 @@
 #include <string_view>
 #include <vector>
 
+#include "foundation/BlockArray.h"
 #include "foundation/Export.h"
 #include "foundation/KYRString.h"
-#include "foundation/xml/XmlBlockArray.h"
 #include "foundation/xml/XmlTextArena.h"
 
 class KYR_EXPORT XmlNameTable {
@@ -44,7 +44,7 @@ class KYR_EXPORT XmlNameTable {
   const Slot& findOrEnter(std::string_view name, XmlTextArena& arena);
   Slot& put(const Slot& slot) noexcept;
 
-  XmlBlockArray<KYRString> names_;
+  BlockArray<KYRString> names_;
   std::vector<Slot> slots_;  // open addressing; a power of two, at most half full
   std::array<Slot, recentCount> recent_;
   std::uint64_t seed_;

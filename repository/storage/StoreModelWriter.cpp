@@ -14,15 +14,10 @@ namespace {
 class Saving {
  public:
   Saving(const KYRStoreModel& model, StoreModelWriter& writer)
-      : numbers_(model, StoredNumbers::Listing::none), writer_(writer) {}
+      : numbers_(model, StoredNumbers::Listing::alone), writer_(writer) {}
 
-  // What objects refer to lies anywhere in memory.
-  void expect(const KYRObject& object) {
-    for (const StoredField* field : StoredClasses::get(object.getElementType()).references) {
-      numbers_.prefetch(field->getReference(object));
-    }
-  }
   void enter(const KYRObject& object, const StoredClass& stored) {
+    lookAhead();
     writer_.beginObject(++entered_, stored.name);  // the numbers follow the walk
     for (const StoredField* field : stored.values) write(object, *field);
     // NOLINTNEXTLINE(cppcoreguidelines-pro-type-static-cast-downcast): the row says that it is one
@@ -33,6 +28,24 @@ class Saving {
   void endList() { writer_.endList(); }
 
  private:
+  // Objects, their texts, and what they refer to lie anywhere in memory: each is asked for some objects
+  // ahead.
+  void lookAhead() {
+    constexpr unsigned int objectsAhead = 12;
+    constexpr unsigned int contentsAhead = 6;
+    if (entered_ + objectsAhead < numbers_.getCount()) {
+      const char* const object = reinterpret_cast<const char*>(numbers_.at(entered_ + objectsAhead + 1));
+      for (const std::size_t line : {0, 64, 128, 192}) __builtin_prefetch(object + line);
+    }
+    if (entered_ + contentsAhead >= numbers_.getCount()) return;
+    const KYRObject& object = *numbers_.at(entered_ + contentsAhead + 1);
+    __builtin_prefetch(object.getName().getCharacters());
+    __builtin_prefetch(object.sourceId.getCharacters());
+    for (const StoredField* field : StoredClasses::get(object.getElementType()).references) {
+      numbers_.prefetch(field->getReference(object));
+    }
+  }
+
   void write(const KYRObject& object, const StoredField& field) {
     switch (field.kind) {
       case StoredKind::text: {

@@ -22,14 +22,15 @@ struct StoredNumbers::Numbering {
   const Listing listing;
   void enter(const KYRObject& object, const StoredClass&) {
     object.scratch_ = numbers.mark_ | ++numbers.count_;
-    if (listing == Listing::all) numbers.objects_.push_back(&object);
+    if (listing != Listing::none) numbers.objects_.emplaceBack(&object);
   }
   void leave() {}
   void beginList(const StoredField&) {}
   void endList() {}
 };
 
-StoredNumbers::StoredNumbers(const KYRStoreModel& model, Listing listing) : mark_(nextMark()) {
+StoredNumbers::StoredNumbers(const KYRStoreModel& model, Listing listing)
+    : mark_(nextMark()), isShared_(listing == Listing::shared) {
   Numbering numbering{*this, listing};
   walkStored(model, numbering);
 }
@@ -38,6 +39,6 @@ unsigned int StoredNumbers::get(const KYRObject* object) const noexcept {
   if (object == nullptr) return 0;
   const std::uint64_t kept = object->scratch_;
   const auto number = static_cast<unsigned int>(kept);
-  if (objects_.empty()) return kept >> numberBits == mark_ >> numberBits ? number : 0;
+  if (!isShared_) return kept >> numberBits == mark_ >> numberBits ? number : 0;
   return number != 0 && number <= objects_.size() && objects_[number - 1] == object ? number : 0;
 }

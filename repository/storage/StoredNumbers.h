@@ -2,15 +2,16 @@
 #pragma once
 
 #include <cstdint>
-#include <vector>
 
+#include "foundation/BlockArray.h"
 #include "repository/model/KYRStoreModel.h"
 
 class KYR_EXPORT StoredNumbers {
  public:
-  enum class Listing { none, all };
+  enum class Listing { none, alone, shared };
   /// Numbers all that the model holds, from 1. The model must not change while the numbers are used. With
-  /// `all` an object can be asked for by its number; without, nobody else may number the model meanwhile.
+  /// a listing an object can be asked for by its number; unless that is `shared`, nobody else may number the
+  /// model meanwhile.
   StoredNumbers(const KYRStoreModel& model, Listing listing);
   /// 0 for null and for an object that the model does not hold.
   unsigned int get(const KYRObject* object) const noexcept;
@@ -27,8 +28,9 @@ class KYR_EXPORT StoredNumbers {
   }
   // An object keeps its number itself, below the mark of the numbering it stems from. No mark is used
   // twice in a process but after two thousand million others, and none looks like a pointer, which may
-  // stand in the same place. Numbers that are listed are told from others by the list.
+  // stand in the same place. Where the listing is shared it tells the numbers from those of others.
   std::uint64_t mark_;
   unsigned int count_ = 0;
-  std::vector<const KYRObject*> objects_;
+  bool isShared_;
+  BlockArray<const KYRObject*> objects_;
 };

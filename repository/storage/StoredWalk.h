@@ -7,8 +7,7 @@
 #include "repository/storage/StoredClasses.h"
 
 /// The visitor has `enter(object, class)`, `leave()`, `beginList(field)` and `endList()`. A list without
-/// entries is passed over. A visitor that has `expect(object)` is told of the objects of long lists some time
-/// before.
+/// entries is passed over.
 template <class Visitor>
 void walkStored(const KYRObject& root, Visitor& visitor) {
   struct Level {
@@ -36,12 +35,7 @@ void walkStored(const KYRObject& root, Visitor& visitor) {
     const unsigned int count = list == nullptr ? 0 : list->getCount();
     if (level.entry < count) {
       if (level.entry == 0) visitor.beginList(field);
-      if constexpr (requires { visitor.expect(root); }) {
-        constexpr unsigned int ahead = 6;
-        if (count - level.entry > ahead) visitor.expect(*(*list)[level.entry + ahead]);
-      }
-      const KYRObject& child = *(*list)[level.entry++];
-      enter(child);
+      enter(*(*list)[level.entry++]);
     } else {
       if (count != 0) visitor.endList();
       ++level.list;

@@ -96,6 +96,47 @@ TEST(KYRSAX2Parser, MayReadAgainAndThenAnotherFile) {
   EXPECT_EQ(recorder.text, "+a at line 1, column 1\n-a\n+b at line 2, column 1\n-b\n");
 }
 
+TEST(KYRSAX2Parser, TellsOfWantedValuesThatCome) {
+  std::string xml = "<a>";
+  for (int i = 0; i < 40; ++i)
+    xml += "<b x='" + std::to_string(i) + "' y='no' z='" + std::to_string(i) + "z'/>";
+  const TemporaryFile file(xml + "</a>");
+  struct Reader {
+    KYRSAX2Parser parser{this, nullptr, &start, nullptr, nullptr, nullptr};
+    std::vector<std::string> asked;
+    std::vector<std::string> coming;
+    std::vector<std::string> started;
+    std::size_t farthest = 0;  // values told of that no element had yet
+    static Reader& from(void* self) { return *static_cast<Reader*>(self); }
+    static bool isWanted(void* self, const KYRString& attribute) {
+      from(self).asked.emplace_back(attribute.view());
+      return attribute.view() != "y";
+    }
+    static void come(void* self, const KYRString& value) { from(self).coming.emplace_back(value.view()); }
+    static void start(void* self, const KYRString&, const KYRStringArray& attributes) {
+      Reader& reader = from(self);
+      for (unsigned int i = 0; i < attributes.getCount(); i += 2) {
+        if (attributes.get(i).view() != "y") reader.started.emplace_back(attributes.get(i + 1).view());
+      }
+      if (reader.started.size() == 40) reader.farthest = reader.coming.size();
+    }
+  };
+  Reader small;
+  small.parser.lookAhead(&Reader::isWanted, &Reader::come);
+  small.parser.parseFile(file.file());
+  EXPECT_TRUE(small.coming.empty());  // read at once, on one thread
+  Reader walk;
+  walk.parser.lookAhead(&Reader::isWanted, &Reader::come);
+  walk.parser.parseFile(file.file());
+  EXPECT_EQ(walk.asked, (std::vector<std::string>{"x", "y", "z"}));
+  EXPECT_EQ(walk.started, small.started);
+  ASSERT_GT(walk.coming.size(), 50U);
+  const std::vector<std::string> last(walk.started.end() - static_cast<int>(walk.coming.size()),
+                                      walk.started.end());
+  EXPECT_EQ(walk.coming, last);
+  EXPECT_GT(walk.farthest + (80 - walk.coming.size()), 50U);
+}
+
 TEST(KYRSAX2Parser, EveryCallbackMayBeMissing) {
   const TemporaryFile file("<a x=''>t<?pi?></a>");
   KYRSAX2Parser parser(nullptr, nullptr, nullptr, nullptr, nullptr, nullptr);

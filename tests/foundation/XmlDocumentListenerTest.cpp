@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 #include "foundation/xml/XmlDocumentReader.h"
 #include "tests/foundation/XmlTestSupport.h"
@@ -49,6 +50,31 @@ TEST(XmlDocumentListener, TheWalkOfADocumentEqualsItsReading) {
   EXPECT_EQ(walk.text,
             "document\n+a 1 in 4294967295\n't'\n+b in 0\n+c 2 in 2\n-c\n-b\n'u'\n+d in 0\n'<'\n+e in 5\n"
             "+f in 7\n-f\n-e\n-d\n-a\n");
+}
+
+TEST(XmlDocumentListener, AWalkTellsOfElementsBeforeTheyStart) {
+  class Expecting : public Follower {
+   public:
+    void expect(XmlDocument::Node element) override { expected.push_back(element); }
+    void startElement(XmlDocument::Node node) override {
+      started.push_back(node);
+      if (!expected.empty() && node == expected.front()) firstAhead = expected.back() - node;
+    }
+    std::vector<XmlDocument::Node> expected;
+    std::vector<XmlDocument::Node> started;
+    XmlDocument::Node firstAhead = 0;
+  } walk;
+  std::string xml = "<a>";
+  for (int i = 0; i < 40; ++i) xml += "<b/>text";
+  xml += "</a>";
+  XmlMemoryInput input(memoryName, xml);
+  replayDocument(readXmlInput(input, nullptr), walk);
+  ASSERT_EQ(walk.started.size(), 41U);
+  ASSERT_GT(walk.expected.size(), 30U);
+  EXPECT_GT(walk.firstAhead, 5U);
+  const std::vector<XmlDocument::Node> last(walk.started.end() - static_cast<int>(walk.expected.size()),
+                                            walk.started.end());
+  EXPECT_EQ(walk.expected, last);
 }
 
 TEST(XmlDocumentListener, ReadingsTellProcessingInstructionsWhereTheyStand) {

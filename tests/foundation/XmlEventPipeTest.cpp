@@ -99,6 +99,29 @@ TEST(XmlEventPipe, WhatTheListenerRaisesEndsBothThreads) {
   }
 }
 
+// Each element once, in order, and never when it has started already.
+TEST(XmlEventPipe, ElementsAreExpectedBeforeTheyStart) {
+  class Expecting : public Follower {
+   public:
+    void expect(XmlDocument::Node element) override {
+      ++expected;
+      isInOrder = isInOrder && element > last && element > started;
+      last = element;
+    }
+    void startElement(XmlDocument::Node node) override { started = node; }
+    int expected = 0;
+    bool isInOrder = true;
+    XmlDocument::Node last = 0;
+    XmlDocument::Node started = 0;
+  } follower;
+  const std::string xml = manyElements(manyBatches);
+  XmlMemoryInput input(memoryName, xml);
+  readXmlInputAhead(input, follower);
+  EXPECT_TRUE(follower.isInOrder);
+  EXPECT_GT(follower.expected, 2 * manyBatches * 9 / 10);
+  EXPECT_LT(follower.expected, 2 * manyBatches);
+}
+
 TEST(XmlEventPipe, TheFillingThreadIsHeldUpUntilTheOtherGivesUp) {
   XmlEventPipe pipe;
   bool isAbandoned = false;

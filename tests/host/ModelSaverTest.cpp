@@ -32,6 +32,15 @@ TEST(ModelSaver, SavesInItsFormatAndCounts) {
   EXPECT_TRUE(saver.getCounts().has_value());
 }
 
+TEST(ModelSaver, CountsNothingWhereNobodyAsks) {
+  const TemporaryFile file("");
+  ModelSaver saver(StoreModelFormat::json, false);
+  saver.skipCounting();
+  saver.save(KYRFile{KYRString(file.path)}, KYRStoreModel());
+  EXPECT_FALSE(contentOf(file.path).empty());
+  EXPECT_FALSE(saver.getCounts().has_value());
+}
+
 TEST(ModelSaver, WritesToAnOutputWhatAFileWouldHold) {
   for (const StoreModelFormat format : {StoreModelFormat::json, StoreModelFormat::sql}) {
     const TemporaryFile file("");

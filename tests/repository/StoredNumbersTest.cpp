@@ -23,7 +23,8 @@ class StoredNumbersTest : public testing::Test {
 };
 
 TEST_F(StoredNumbersTest, NumbersFollowTheDocument) {
-  for (const auto listing : {StoredNumbers::Listing::none, StoredNumbers::Listing::all}) {
+  for (const auto listing :
+       {StoredNumbers::Listing::none, StoredNumbers::Listing::alone, StoredNumbers::Listing::shared}) {
     const StoredNumbers numbers(model_, listing);
     EXPECT_EQ(numbers.getCount(), 4U);
     EXPECT_EQ(numbers.get(&model_), 1U);
@@ -32,7 +33,7 @@ TEST_F(StoredNumbersTest, NumbersFollowTheDocument) {
 }
 
 TEST_F(StoredNumbersTest, ListedObjectsAreFoundByTheirNumber) {
-  const StoredNumbers numbers(model_, StoredNumbers::Listing::all);
+  const StoredNumbers numbers(model_, StoredNumbers::Listing::shared);
   EXPECT_EQ(numbers.at(1), &model_);
   EXPECT_EQ(numbers.at(4), packages_[2]);
 }
@@ -42,7 +43,8 @@ TEST_F(StoredNumbersTest, WhatTheModelDoesNotHoldHasNone) {
   auto* const foreign = new KYRDesignPackage();
   other.addDesignPackage(foreign);
   const KYRDesignPackage alone;
-  for (const auto listing : {StoredNumbers::Listing::none, StoredNumbers::Listing::all}) {
+  for (const auto listing :
+       {StoredNumbers::Listing::none, StoredNumbers::Listing::alone, StoredNumbers::Listing::shared}) {
     const StoredNumbers foreignNumbers(other, listing);
     const StoredNumbers numbers(model_, listing);
     EXPECT_EQ(numbers.get(nullptr), 0U);
@@ -55,8 +57,8 @@ TEST_F(StoredNumbersTest, WhatTheModelDoesNotHoldHasNone) {
 
 // As in a comparison of a model with itself.
 TEST_F(StoredNumbersTest, TwoListingsOfAModelStandSideBySide) {
-  const StoredNumbers first(model_, StoredNumbers::Listing::all);
-  const StoredNumbers second(model_, StoredNumbers::Listing::all);
+  const StoredNumbers first(model_, StoredNumbers::Listing::shared);
+  const StoredNumbers second(model_, StoredNumbers::Listing::shared);
   EXPECT_EQ(first.get(packages_[1]), 3U);
   EXPECT_EQ(second.get(packages_[1]), 3U);
 }

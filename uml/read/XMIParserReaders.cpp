@@ -53,7 +53,7 @@ void XMIParser::readModel(const TagHandler& row, const KYRString& tag, const KYR
   detectVersions();
   const KYRString& xmiId = attribute(names.id);
   const KYRString& id = xmiId.isEmpty() ? name : xmiId;
-  announceReferences(*row.plan);
+  findReferences(*row.plan);
   MadeObject object = makeObject(*row.plan, id, name);
   patchRow();
   // A second model element takes the place of the first as the result.
@@ -61,7 +61,7 @@ void XMIParser::readModel(const TagHandler& row, const KYRString& tag, const KYR
   keepIn(model->exporter, exporter);
   keepIn(model->exporterVersion, exporterVersion);
   keepIn(model->umlVersion, umlVersion);
-  completeObject(*row.plan, tag, std::move(object), ids.intern(id));
+  completeObject(*row.plan, tag, std::move(object), numberOf(id));
 }
 
 // A child row: with an xmi:idref the element is a mere reference, and nothing is made or pushed;
@@ -71,7 +71,7 @@ void XMIParser::readChild(const TagHandler& row, const KYRString& tag, const KYR
   if (idref.isEmpty()) {
     readPlan(*row.plan, tag);
   } else if (elementStack.back().id != IdTable::emptyId) {
-    noteLink(elementStack.back().id, ids.intern(idref), row.linkKind);
+    noteLink(elementStack.back().id, numberOf(idref), row.linkKind);
   }
 }
 
@@ -86,12 +86,10 @@ void XMIParser::storeText(const TagHandler& row, const KYRString&) {
 void XMIParser::readPlan(const ClassPlan& plan, const KYRString& tag) {
   const ReaderNames& names = ReaderNames::get();
   const KYRString& id = attribute(names.id);
-  const std::uint32_t hash = ids.announce(id);
-  announceReferences(plan);
+  findReferences(plan);
   MadeObject object = makeObject(plan, id, attribute(names.name));
   patchRow();
-  for (const Reference& reference : references) ids.approach(reference.hash);
-  completeObject(plan, tag, std::move(object), ids.intern(id, hash));
+  completeObject(plan, tag, std::move(object), numberOf(id));
 }
 
 XMIParser::MadeObject XMIParser::makeObject(const ClassPlan& plan, const KYRString& id,
@@ -102,7 +100,6 @@ XMIParser::MadeObject XMIParser::makeObject(const ClassPlan& plan, const KYRStri
 
 void XMIParser::completeObject(const ClassPlan& plan, const KYRString& tag, MadeObject object,
                                IdTable::Number id) {
-  for (const Reference& reference : references) ids.approachText(reference.hash);
   readScalars(plan, *object);
   UMLElement* const element = object.get();
   element->readingNumber = objects.getCount();
@@ -128,16 +125,15 @@ void XMIParser::readScalars(const ClassPlan& plan, UMLElement& element) {
 
 // The value is taken whole: one that lists several ids is a key that no object has. References are noted
 // in the order of the plan, whatever the order of the attributes.
-void XMIParser::announceReferences(const ClassPlan& plan) {
+void XMIParser::findReferences(const ClassPlan& plan) {
   references.clear();
   for (const int name : scan.getFoundNames()) {
     int position = plan.meanings[static_cast<std::size_t>(name)].firstReference;
     if (position == ClassPlan::none || attribute(name).isEmpty()) continue;
     const KYRString& value = attribute(name);
-    const std::uint32_t hash = ids.announce(value);
     while (position != ClassPlan::none) {
       const ClassPlan::Reference& reference = plan.references[static_cast<std::size_t>(position)];
-      references.push_back({&value, hash, position, reference.linkKind});
+      references.push_back({&value, position, reference.linkKind});
       position = reference.nextOfName;
     }
   }
@@ -148,7 +144,7 @@ void XMIParser::announceReferences(const ClassPlan& plan) {
 
 void XMIParser::noteReferences(IdTable::Number id) {
   for (const Reference& reference : references) {
-    noteLink(ids.intern(*reference.id, reference.hash), id, reference.linkKind);
+    noteLink(numberOf(*reference.id), id, reference.linkKind);
   }
 }
 

@@ -1,4 +1,4 @@
-// XmlBlockArray<T>: an array that grows by blocks, each as large as all before it together.
+// BlockArray<T>: an array that grows by blocks, each as large as all before it together.
 //
 // Nothing is ever moved, so references stay valid and growing needs no room for two copies. The system
 // gives memory to a block only as it is filled, so a half empty one costs little. Since neither the
@@ -17,7 +17,7 @@
 #include <utility>
 
 template <class T>
-class XmlBlockArray {
+class BlockArray {
  public:
   static constexpr std::size_t firstBlockShift = 10;
   static constexpr std::size_t firstBlockSize = std::size_t{1} << firstBlockShift;
@@ -40,7 +40,7 @@ class XmlBlockArray {
     return *added;
   }
   /// Appends `count` entries of another array, from an index on.
-  void appendFrom(const XmlBlockArray& other, std::size_t from, std::size_t count) {
+  void appendFrom(const BlockArray& other, std::size_t from, std::size_t count) {
     while (count != 0) {
       T* const place = makeRoom();
       const std::size_t left = endOf(size_) - size_;
@@ -55,7 +55,7 @@ class XmlBlockArray {
   /// Takes on the entries of `other`, which must outlive this array and grow no more, without copying
   /// them. Further entries begin a block of their own, so their indexes leave a gap. To be called on an
   /// empty array.
-  void shareBlocks(const XmlBlockArray& other) {
+  void shareBlocks(const BlockArray& other) {
     const std::size_t used = other.size_ == 0 ? 0 : blockOf(other.size_ - 1) + 1;
     for (std::size_t block = 0; block < used; ++block) {
       blocks_[block] = Block(other.blocks_[block].get(), Release{false});
