@@ -51,10 +51,12 @@ std::shared_ptr<const XmlDocument> LossSurvey::rewrite(const std::shared_ptr<con
   if (surveyed_.lock() == document) return document;
   wait();  // the file has changed meanwhile: the rules of the first reading use the normalizer
   surveyed_ = document;
-  std::packaged_task<std::shared_ptr<const XmlDocument>()> rules([this, document] {
-    std::shared_ptr<const XmlDocument> normalized = normalizer_.rewrite(document);
+  std::packaged_task<std::shared_ptr<const XmlDocument>()> rules([this, written = document]() mutable {
+    std::shared_ptr<const XmlDocument> normalized = normalizer_.rewrite(written);
+    written.reset();  // the task outlives its run
+    if (!normalizer_.getReport().matters()) return std::shared_ptr<const XmlDocument>();
     // The file will be read once more then, so what the import leaves behind is better freed.
-    if (normalizer_.getReport().matters()) MemoryAtEnd::needMemory(true);
+    MemoryAtEnd::needMemory(true);
     return normalized;
   });
   normalized_ = rules.get_future();

@@ -25,11 +25,10 @@ bool IdIndex::Slot::isOf(std::string_view text) const noexcept {
 }
 
 std::uint32_t IdIndex::find(std::string_view id) const noexcept {
-  return slots_.seek(slots_.hashOf(id, seed_), [id](const Slot& slot) { return slot.isOf(id); }).bearer;
+  return slots_.seek(hashOf(id), [id](const Slot& slot) { return slot.isOf(id); }).bearer;
 }
 
-std::uint32_t IdIndex::enter(std::string_view id, std::uint32_t bearer) {
-  const std::uint32_t hash = slots_.hashOf(id, seed_);
+std::uint32_t IdIndex::enter(std::string_view id, std::uint32_t bearer, std::uint32_t hash) {
   Slot& place = slots_.seek(hash, [id](const Slot& slot) { return slot.isOf(id); });
   if (!place.isFree()) return place.bearer;
   slots_.claim(place, hash) = {id.data(), hash, bearer};

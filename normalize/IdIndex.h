@@ -14,7 +14,12 @@ class IdIndex {
   explicit IdIndex(std::size_t expected = 0);
   /// Enters an id, whose characters must outlive the index and end in a zero. Returns who bore it before, or
   /// `none`.
-  std::uint32_t enter(std::string_view id, std::uint32_t bearer);
+  std::uint32_t enter(std::string_view id, std::uint32_t bearer) { return enter(id, bearer, hashOf(id)); }
+  /// As above, with the id's hash.
+  std::uint32_t enter(std::string_view id, std::uint32_t bearer, std::uint32_t hash);
+  std::uint32_t hashOf(std::string_view id) const noexcept { return slots_.hashOf(id, seed_); }
+  /// Asks the processor for what `enter` will read.
+  void prefetch(std::uint32_t hash) const noexcept { slots_.prefetch(hash); }
   /// Who bears the id, or `none`.
   std::uint32_t find(std::string_view id) const noexcept;
 

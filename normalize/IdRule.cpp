@@ -2,6 +2,9 @@
 // behind it, when all that are taken are known.
 #include "normalize/IdRule.h"
 
+#include <algorithm>
+#include <array>
+
 #include "uml/UMLClasses.h"
 
 void IdRule::apply(NormalizedDocument& document) {
@@ -11,15 +14,30 @@ void IdRule::apply(NormalizedDocument& document) {
   isOpen_.assign(document.editor.getNodeCount(), false);
   std::vector<Node> without;
   std::vector<Node> others;  // that bear the id of another one
-  for (const Node node : objects) {
+  // Ids lie anywhere in the index: places are asked of memory some objects ahead.
+  struct Coming {
+    const KYRString* id;
+    std::uint32_t hash;
+  };
+  std::array<Coming, 8> ring{};
+  const auto expect = [&](std::size_t at) {
+    const KYRString& id = document.attribute(objects[at], document.xmiId);
+    ring[at % ring.size()] = {&id, ids.hashOf(id.view())};
+    ids.prefetch(ring[at % ring.size()].hash);
+  };
+  for (std::size_t at = 0; at < std::min(ring.size(), objects.size()); ++at) expect(at);
+  for (std::size_t at = 0; at < objects.size(); ++at) {
+    const Node node = objects[at];
     enter(document, node);
-    const KYRString& id = document.attribute(node, document.xmiId);
+    const KYRString& id = *ring[at % ring.size()].id;
+    const std::uint32_t hash = ring[at % ring.size()].hash;
+    if (at + ring.size() < objects.size()) expect(at + ring.size());
     if (id.isEmpty()) {
       // What stands for an element of another file is none of this one.
       if (document.isEmpty(node, document.href)) without.push_back(node);
       continue;
     }
-    const Node first = ids.enter(id.view(), node);
+    const Node first = ids.enter(id.view(), node, hash);
     if (first != IdIndex::none && isAnother(document, node, first)) others.push_back(node);
   }
   for (const Node node : without) giveId(document, node);

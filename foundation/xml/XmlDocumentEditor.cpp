@@ -24,6 +24,9 @@ XmlDocumentEditor::XmlDocumentEditor(std::shared_ptr<const XmlDocument> source)
       result_(new XmlDocument()),
       sourceAttributes_(static_cast<std::uint32_t>(source_->attributes_.size())) {
   for (Name name = 0; name < source_->getNameCount(); ++name) intern(source_->getNameText(name).view());
+  for (std::uint32_t number = 0; number < sourceAttributes_; ++number) {
+    noteAttributeName(source_->attributes_[number].name);
+  }
   result_->texts_.shareBlocks(source_->texts_);
   result_->source_ = source_;
   result_->arena_->keep(source_->arena_);
@@ -96,13 +99,18 @@ KYRString XmlDocumentEditor::getContent(Node node) const {
 
 const XmlDocumentEditor::AttributeRecord& XmlDocumentEditor::attributeAt(Node node,
                                                                          std::uint32_t index) const noexcept {
-  const std::uint32_t number = headOf(node).firstAttribute + index;
-  return number < sourceAttributes_ ? source_->attributes_[number] : attributes_[number - sourceAttributes_];
+  return attributeOf(headOf(node).firstAttribute + index);
 }
 
-const KYRString* XmlDocumentEditor::findAttribute(Node node, Name name) const noexcept {
-  for (std::uint32_t index = 0; index < getAttributeCount(node); ++index) {
-    const AttributeRecord& attribute = attributeAt(node, index);
+void XmlDocumentEditor::noteAttributeName(Name name) {
+  if (name >= isAttributeName_.size()) isAttributeName_.resize(std::size_t{name} + 1);
+  isAttributeName_[name] = true;
+}
+
+const KYRString* XmlDocumentEditor::seekAttribute(Node node, Name name) const noexcept {
+  const Head head = headOf(node);
+  for (std::uint32_t index = 0; index < head.attributeCount; ++index) {
+    const AttributeRecord& attribute = attributeOf(head.firstAttribute + index);
     if (attribute.name == name) return &result_->texts_[attribute.value];
   }
   return nullptr;
@@ -146,6 +154,7 @@ void XmlDocumentEditor::setAttribute(Node node, Name name, std::string_view valu
     if (getAttributeValue(node, at).view() != value) ownAttributes(node, 0)[at].value = addText(value);
     return;
   }
+  noteAttributeName(name);
   const std::uint32_t text = addText(value);
   AttributeRecord* const attributes = ownAttributes(node, 1);
   const std::uint32_t place = std::min(index, count);
@@ -155,6 +164,7 @@ void XmlDocumentEditor::setAttribute(Node node, Name name, std::string_view valu
 }
 
 void XmlDocumentEditor::renameAttribute(Node node, std::uint32_t index, Name name) {
+  noteAttributeName(name);
   ownAttributes(node, 0)[index].name = name;
 }
 

@@ -64,7 +64,9 @@ class KYR_EXPORT XmlDocumentEditor {
     return result_->texts_[attributeAt(node, index).value];
   }
   /// The value of the attribute of exactly that name, or null.
-  const KYRString* findAttribute(Node node, Name name) const noexcept;
+  const KYRString* findAttribute(Node node, Name name) const noexcept {
+    return name < isAttributeName_.size() && isAttributeName_[name] ? seekAttribute(node, name) : nullptr;
+  }
 
   // Changes.
   void setName(Node node, Name name);
@@ -113,7 +115,13 @@ class KYR_EXPORT XmlDocumentEditor {
                                  source_->getAttributeCount(node)}
                           : heads_[node];
   }
+  const AttributeRecord& attributeOf(std::uint32_t number) const noexcept {
+    return number < sourceAttributes_ ? source_->attributes_[number]
+                                      : attributes_[number - sourceAttributes_];
+  }
   const AttributeRecord& attributeAt(Node node, std::uint32_t index) const noexcept;
+  const KYRString* seekAttribute(Node node, Name name) const noexcept;
+  void noteAttributeName(Name name);
   AttributeRecord* ownAttributes(Node node, std::uint32_t room);
   std::uint32_t addText(std::string_view text);
   Node originOf(Node node) const noexcept {
@@ -133,4 +141,5 @@ class KYR_EXPORT XmlDocumentEditor {
   std::vector<Node> origins_;                // of added nodes
   std::vector<AttributeRecord> attributes_;  // of the elements whose attributes were changed
   std::uint32_t sourceAttributes_;
+  std::vector<bool> isAttributeName_;  // whether some attribute bears the name, or did
 };

@@ -86,6 +86,22 @@ TEST(XmlDocumentEditor, NamesAndAttributesChange) {
             withoutPlaces(dumpDocument(*readDocument("<a w='0' x='one' v='9'>t<B/>u<c Z='3'><d/></c></a>"))));
 }
 
+// Names that no attribute bears are not looked for.
+TEST(XmlDocumentEditor, AttributesAreFoundByNamesThatWereNoneOfAnAttributeBefore) {
+  XmlDocumentEditor editor(readDocument("<a x='1'><b/></a>"));
+  const auto given = editor.intern("b");  // the name of an element alone
+  const auto renamed = editor.intern("new");
+  EXPECT_EQ(editor.findAttribute(1, given), nullptr);
+  EXPECT_EQ(editor.findAttribute(0, renamed), nullptr);
+  editor.setAttribute(1, given, "2");
+  editor.renameAttribute(0, 0, renamed);
+  ASSERT_NE(editor.findAttribute(1, given), nullptr);
+  EXPECT_EQ(editor.findAttribute(1, given)->view(), "2");
+  ASSERT_NE(editor.findAttribute(0, renamed), nullptr);
+  EXPECT_EQ(editor.findAttribute(0, renamed)->view(), "1");
+  EXPECT_EQ(editor.findAttribute(0, editor.intern("x")), nullptr);
+}
+
 TEST(XmlDocumentEditor, AttributesAreReordered) {
   XmlDocumentEditor editor(readDocument("<a p='1' q='2' r='3'/>"));
   editor.orderAttributes(0, {2, 0, 1});

@@ -1,7 +1,9 @@
 // What an import has lost is counted only when a rule would have helped.
 #include "host/LossSurvey.h"
 
+#include <chrono>
 #include <cstdio>
+#include <thread>
 
 #include "foundation/MemoryAtEnd.h"
 #include "foundation/xml/XmlDocumentReader.h"
@@ -69,6 +71,25 @@ TEST(LossSurvey, ALargeFileIsLookedAtWhileTheImportGoesOn) {
       saved);
   ASSERT_TRUE(surveyed.loss.has_value());
   EXPECT_EQ(surveyed.loss->classes, 10000U);
+}
+
+// It takes as much memory as the file, and the import is not over yet.
+TEST(LossSurvey, TheDocumentIsLetGoWhenTheRulesAreThrough) {
+  for (const int classes : {2, 11000}) {  // on the calling thread, and on another one
+    std::string xml;
+    for (int i = 0; i < classes; ++i) xml += element("Class", "xmi:id='c" + std::to_string(i) + "' name='C'");
+    const TemporaryFile file(xmi(xml));
+    LossSurvey survey("shop.xmi");
+    std::shared_ptr<const XmlDocument> document = readXmlFile(file.file(), nullptr, false);
+    const std::weak_ptr<const XmlDocument> watched = document;
+    survey.rewrite(document);
+    document.reset();
+    for (int i = 0; !watched.expired() && i < 5000; ++i) {
+      std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+    EXPECT_TRUE(watched.expired()) << classes;
+    EXPECT_FALSE(survey.compare(file.file(), {}, false).has_value());
+  }
 }
 
 // What a rule would cure is read once more later on, which takes memory; that tells that the rules were run.
