@@ -91,6 +91,7 @@ class BlockArray {
     const std::size_t block = blockOf(size_);
     if (blocks_[block] == nullptr) {
       const std::size_t size = block == 0 ? firstBlockSize : firstOf(block);
+      // NOLINTNEXTLINE(bugprone-sizeof-expression): the entries may be pointers
       blocks_[block].reset(static_cast<T*>(::operator new(size * sizeof(T))));
     }
     return at(size_);

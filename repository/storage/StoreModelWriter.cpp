@@ -34,8 +34,10 @@ class Saving {
     constexpr unsigned int objectsAhead = 12;
     constexpr unsigned int contentsAhead = 6;
     if (entered_ + objectsAhead < numbers_.getCount()) {
+      constexpr std::size_t line = 64;
+      constexpr std::size_t most = 4 * line;  // of an attribute or a class
       const char* const object = reinterpret_cast<const char*>(numbers_.at(entered_ + objectsAhead + 1));
-      for (const std::size_t line : {0, 64, 128, 192}) __builtin_prefetch(object + line);
+      for (std::size_t at = 0; at < most; at += line) __builtin_prefetch(object + at);
     }
     if (entered_ + contentsAhead >= numbers_.getCount()) return;
     const KYRObject& object = *numbers_.at(entered_ + contentsAhead + 1);
