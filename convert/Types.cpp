@@ -48,23 +48,20 @@ UMLType* typeElementOf(const KYRObject& feature) {
 
 }  // namespace
 
-void KYROmgUml2XmiImportBridge::assignFeatureType(KYRObject* feature) {
-  assignType(*feature, typeElementOf(*feature));
-}
-
 // The element type is the class, so the casts need no check; there is one for each feature of a model.
 // NOLINTBEGIN(cppcoreguidelines-pro-type-static-cast-downcast)
-void KYROmgUml2XmiImportBridge::assignType(KYRObject& feature, UMLType* element) {
-  switch (feature.getElementType()) {
+void KYROmgUml2XmiImportBridge::assignFeatureType(KYRObject* feature) {
+  UMLType* const element = typeElementOf(*feature);
+  switch (feature->getElementType()) {
     case KYRElementType::attribute:
-      static_cast<KYRAttribute&>(feature).addType(featureTypeOf(element));
+      static_cast<KYRAttribute&>(*feature).addType(featureTypeOf(element));
       break;
     case KYRElementType::argument:
-      static_cast<KYRArgument&>(feature).addType(featureTypeOf(element));
+      static_cast<KYRArgument&>(*feature).addType(featureTypeOf(element));
       break;
     case KYRElementType::operation:
       // One without a type returns nothing.
-      if (element != nullptr) static_cast<KYROperation&>(feature).addReturnType(featureTypeOf(element));
+      if (element != nullptr) static_cast<KYROperation&>(*feature).addReturnType(featureTypeOf(element));
       break;
     default:
       break;
@@ -98,7 +95,7 @@ void KYROmgUml2XmiImportBridge::assignFeatureTypes() {
         __builtin_prefetch(type->typedObjects.getCollection());
       }
     }
-    if (at < count) assignType(*typedFeatures.at(at), coming(at));
+    if (at < count) assignFeatureType(typedFeatures.at(at));
   }
 }
 

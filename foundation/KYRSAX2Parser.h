@@ -34,7 +34,8 @@ class KYR_EXPORT KYRSAX2Parser {
 
   /// Lets `coming` be told, in order, of the values of the attributes that `isWanted`, some elements before
   /// the start callback gets them: of most values where it pays, of none in small files. `isWanted` is asked
-  /// once for each attribute name of a file. For callbacks that can ask memory for what they will need.
+  /// at most once for each attribute name of a file. For callbacks that can ask memory for what they will
+  /// need. Neither may be null.
   void lookAhead(WantedCallback isWanted, ComingCallback coming);
 
   /// Streams the file. Tags and attribute names arrive as written, prefix included; attribute

@@ -104,7 +104,8 @@ void ImportCommand::importFile(KYROptionList& options) {
     normalizer_.emplace(std::string(input.getFileName().view()), settings_.normalize.getExtent());
     rewriting.emplace(input, *normalizer_);
   } else if (!settings_.isQuiet) {
-    survey_.emplace(std::string(input.getFileName().view()));
+    // The trace looks at the tree when the import is over.
+    survey_.emplace(std::string(input.getFileName().view()), !settings_.traceFile.empty());
     rewriting.emplace(input, *survey_);
   }
   KYRFile target{KYRString(target_)};

@@ -34,7 +34,7 @@ class ImportCommand {
     bool isAppending = false;
     NormalizeChoice normalize;
     bool isQuiet = false;
-    bool isResultWanted = false;  // somebody asks for the result of a quiet import, too
+    bool isResultWanted = false;  // of a quiet import: its counts are asked for all the same
     bool withTiming = false;
     HostLog::Format format = HostLog::Format::text;
   };

@@ -49,11 +49,11 @@ void LossSurvey::wait() noexcept {
 std::shared_ptr<const XmlDocument> LossSurvey::rewrite(const std::shared_ptr<const XmlDocument>& document) {
   // An import reads its file more than once, and gets the same document each time as long as it lives.
   if (surveyed_.lock() == document) return document;
-  wait();  // the file has changed meanwhile: the rules of the first reading use the normalizer
+  wait();  // another document: the rules of the first one use the normalizer
   surveyed_ = document;
   std::packaged_task<std::shared_ptr<const XmlDocument>()> rules([this, written = document]() mutable {
     std::shared_ptr<const XmlDocument> normalized = normalizer_.rewrite(written);
-    written.reset();  // the task outlives its run
+    if (!isReadAgain_) written.reset();  // the task outlives its run
     if (!normalizer_.getReport().matters()) return std::shared_ptr<const XmlDocument>();
     // The file will be read once more then, so what the import leaves behind is better freed.
     MemoryAtEnd::needMemory(true);

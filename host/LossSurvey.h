@@ -28,8 +28,10 @@ class LossSurvey final : public XmlRewriter {
     std::string reasons;
   };
 
-  /// `fileName` as for the Normalizer.
-  explicit LossSurvey(std::string fileName) : normalizer_(std::move(fileName)) {}
+  /// `fileName` as for the Normalizer. With `isReadAgain` the document stays as long as this, for an import
+  /// that will read its file once more.
+  LossSurvey(std::string fileName, bool isReadAgain)
+      : normalizer_(std::move(fileName)), isReadAgain_(isReadAgain) {}
   ~LossSurvey() override;
   std::shared_ptr<const XmlDocument> rewrite(const std::shared_ptr<const XmlDocument>& document) override;
   bool watchesOnly() const noexcept override { return true; }
@@ -41,6 +43,7 @@ class LossSurvey final : public XmlRewriter {
   void wait() noexcept;
 
   Normalizer normalizer_;
+  const bool isReadAgain_;
   std::weak_ptr<const XmlDocument> surveyed_;
   std::future<std::shared_ptr<const XmlDocument>> normalized_;
   std::thread worker_;

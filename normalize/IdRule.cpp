@@ -19,7 +19,7 @@ void IdRule::apply(NormalizedDocument& document) {
     const KYRString* id;
     std::uint32_t hash;
   };
-  std::array<Coming, 8> ring{};
+  std::array<Coming, 8> ring{};  // memory answers in the time of some three objects
   const auto expect = [&](std::size_t at) {
     const KYRString& id = document.attribute(objects[at], document.xmiId);
     ring[at % ring.size()] = {&id, ids.hashOf(id.view())};

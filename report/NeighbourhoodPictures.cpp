@@ -19,7 +19,7 @@ constexpr std::size_t longestLine = 64UL * 1024;
 class Conversation {
  public:
   Conversation(const KYRStoreModel& model, std::size_t mostLines)
-      : numbers_(model, StoredNumbers::Listing::shared), linesLeft_(mostLines) {}
+      : numbers_(model, StoredNumbers::Use::shared), linesLeft_(mostLines) {}
 
   Outcome hold(const std::string& program, GraphvizProcess::Patience patience);
   std::string takeJson();

@@ -22,7 +22,7 @@ void writeModel(const KYRStoreModel& model, BlockSink& sink) {
 
 // A picture has "<" in its own tags only: in texts it is escaped.
 void writeDiagrams(const KYRStoreModel& model, BlockSink& sink) {
-  const StoredNumbers numbers(model, StoredNumbers::Listing::shared);
+  const StoredNumbers numbers(model, StoredNumbers::Use::shared);
   const DrawnLinks links = [&numbers](const KYRModelObject& subject) {
     const unsigned int id = numbers.get(&subject);
     return id == 0 ? std::string() : "#id/" + std::to_string(id);

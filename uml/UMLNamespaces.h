@@ -88,7 +88,8 @@ class UMLType : public virtual UMLPackageableElement {
   UMLPackage* package = nullptr;
   int length = 0;
   int scale = 0;
-  KYRType* repositoryType = nullptr;  // what the conversion gives to features of this type
+  // What the conversion gives to features of this type, as long as it goes on; null of enumerations.
+  KYRType* repositoryType = nullptr;
 };
 
 class UMLTypedElement : public virtual UMLNamedElement {

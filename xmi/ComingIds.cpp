@@ -14,7 +14,9 @@ void ComingIds::expect(const KYRString& id) noexcept {
   ids_.prefetchBearer(before(3));
 }
 
-std::uint32_t ComingIds::hashOf(const KYRString& id) const noexcept {
+std::uint32_t ComingIds::hashOf(const KYRString& id) noexcept {
   const Known& known = known_[placeOf(id.getCharacters())];
-  return known.characters == id.getCharacters() ? known.hash : ids_.hashOf(id);
+  if (known.characters == id.getCharacters()) return known.hash;
+  ++computed_;
+  return ids_.hashOf(id);
 }

@@ -21,9 +21,7 @@ class IdTable {
   static constexpr Number emptyId = 0;
 
   IdTable();
-  /// The number of that id. A borrowed text must live as long as this table.
-  Number intern(const KYRString& id) { return intern(id, hashOf(id)); }
-  /// As above, with the id's hash.
+  /// The number of an id, of which the hash is known. A borrowed text must live as long as this table.
   Number intern(const KYRString& id, std::uint32_t hash);
   static std::uint32_t hashOf(const KYRString& id) noexcept {
     return TextSlots<Slot>::hashOf(id.view(), TextHash::seed());

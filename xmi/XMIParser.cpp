@@ -145,6 +145,7 @@ void XMIParser::cleanUp() noexcept {
   elementStack.clear();
   handlerStack.clear();
   pendingLinks.clear();
+  comingIds.forget();
   for (unsigned int i = 0; i < unknownTags.getSlotCount(); ++i) delete unknownTags.at(i);
   unknownTags.empty();
   for (unsigned int i = 0; i < objects.getSlotCount(); ++i) {

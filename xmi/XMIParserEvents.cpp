@@ -32,7 +32,7 @@ bool XMIParser::isIdCallback(void* /*userData*/, const KYRString& attribute) {
 
 void XMIParser::comingIdCallback(void* userData, const KYRString& id) {
   auto& self = *static_cast<XMIParser*>(userData);
-  if (self.skipDepth == 0) self.comingIds.expect(id);
+  if (self.skipDepth == 0) self.comingIds.expect(id);  // nothing is looked up of what is skipped
 }
 
 void XMIParser::startTag(const KYRString& writtenTag, const KYRStringArray& attributes) {

@@ -312,7 +312,6 @@ class KYROmgUml2XmiImportBridge {
   void placeTablesWithOwners();
   void placePackagesAsSchemas();
   KYRType* featureTypeOf(UMLType* element);
-  void assignType(KYRObject& feature, UMLType* element);
   void assignFeatureTypes();
   KYRDerivedType* convertEnumeration(UMLEnumeration* element);
   void addTypeValue(KYRDerivedType* type, UMLEnumerationLiteral* literal, KYRString& dataType);
@@ -324,11 +323,11 @@ class KYROmgUml2XmiImportBridge {
   void addKeysOverGeneralizations(const KYRString& keyName, KYRAttribute* attribute, const KYRString& column);
   const std::vector<KYRAssociationRole*>& rolesTowards(const KYRClass* keyClass, const KYRString& farRole);
 
-  // The type that an enumeration has filled, and the data type that its literals tell.
+  // What is known of an enumeration after its first pass.
   struct EnumerationPass {
     KYRDerivedType* type = nullptr;          // what the enumeration becomes
     const KYRDerivedType* filled = nullptr;  // the type that has its literals
-    KYRString dataType;
+    KYRString dataType;                      // that the literals tell
   };
 
   // Indexes beside the lists above: none holds anything that the lists do not.

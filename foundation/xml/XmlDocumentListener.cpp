@@ -5,7 +5,7 @@ XmlDocumentListener::~XmlDocumentListener() = default;
 
 void replayDocument(const std::shared_ptr<const XmlDocument>& document, XmlDocumentListener& listener) {
   using Node = XmlDocument::Node;
-  constexpr Node ahead = 12;
+  constexpr Node ahead = 12;  // nodes: as many elements as of a document that is being read (XmlEventPipe)
   const XmlDocument& nodes = *document;
   listener.startDocument(document);
   Node open = XmlDocument::noNode;  // the innermost element that has not ended

@@ -40,7 +40,7 @@ void XmlEventPipe::close(const std::exception_ptr& failure) noexcept {
 }
 
 void XmlEventPipe::follow(const XmlDocument& document, XmlDocumentListener& listener) {
-  constexpr std::size_t ahead = 24;
+  constexpr std::size_t ahead = 24;  // events: some eight elements, in which ids are asked for by stages
   XmlDocument::Node open = XmlDocument::noNode;
   for (std::size_t number = 0;; ++number) {
     {

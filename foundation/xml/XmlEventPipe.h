@@ -36,8 +36,8 @@ class KYR_EXPORT XmlEventPipe final : public XmlDocumentListener {
   void close(const std::exception_ptr& failure) noexcept;
 
   // The following thread's side.
-  /// Tells `listener` of all events but the start of the document. Raises what ended the filling, or
-  /// what the listener raises.
+  /// Tells `listener` of all events but the start of the document, and of elements to expect. Raises what
+  /// ended the filling, or what the listener raises.
   void follow(const XmlDocument& document, XmlDocumentListener& listener);
   /// Lets the filling thread end at its next event. `follow` must not be called afterwards.
   void abandon() noexcept;

@@ -23,7 +23,7 @@ struct ComparedModel::Listing {
   void endList() {}
 };
 
-ComparedModel::ComparedModel(const KYRStoreModel& model) : numbers_(model, StoredNumbers::Listing::shared) {
+ComparedModel::ComparedModel(const KYRStoreModel& model) : numbers_(model, StoredNumbers::Use::shared) {
   Listing listing{nodes, {}, {}};
   walkStored(model, listing);
 }

@@ -14,7 +14,7 @@ namespace {
 class Saving {
  public:
   Saving(const KYRStoreModel& model, StoreModelWriter& writer)
-      : numbers_(model, StoredNumbers::Listing::alone), writer_(writer) {}
+      : numbers_(model, StoredNumbers::Use::alone), writer_(writer) {}
 
   void enter(const KYRObject& object, const StoredClass& stored) {
     lookAhead();
@@ -31,6 +31,7 @@ class Saving {
   // Objects, their texts, and what they refer to lie anywhere in memory: each is asked for some objects
   // ahead.
   void lookAhead() {
+    // Writing an object takes a fourth of a microsecond, memory about as long.
     constexpr unsigned int objectsAhead = 12;
     constexpr unsigned int contentsAhead = 6;
     if (entered_ + objectsAhead < numbers_.getCount()) {

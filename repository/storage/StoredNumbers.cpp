@@ -19,19 +19,18 @@ std::uint64_t nextMark() noexcept {
 
 struct StoredNumbers::Numbering {
   StoredNumbers& numbers;
-  const Listing listing;
   void enter(const KYRObject& object, const StoredClass&) {
-    object.scratch_ = numbers.mark_ | ++numbers.count_;
-    if (listing != Listing::none) numbers.objects_.emplaceBack(&object);
+    numbers.objects_.emplaceBack(&object);
+    object.scratch_ = numbers.mark_ | numbers.getCount();
   }
   void leave() {}
   void beginList(const StoredField&) {}
   void endList() {}
 };
 
-StoredNumbers::StoredNumbers(const KYRStoreModel& model, Listing listing)
-    : mark_(nextMark()), isShared_(listing == Listing::shared) {
-  Numbering numbering{*this, listing};
+StoredNumbers::StoredNumbers(const KYRStoreModel& model, Use use)
+    : mark_(nextMark()), isShared_(use == Use::shared) {
+  Numbering numbering{*this};
   walkStored(model, numbering);
 }
 

@@ -8,18 +8,17 @@
 
 class KYR_EXPORT StoredNumbers {
  public:
-  enum class Listing { none, alone, shared };
-  /// Numbers all that the model holds, from 1. The model must not change while the numbers are used. With
-  /// a listing an object can be asked for by its number; unless that is `shared`, nobody else may number the
-  /// model meanwhile.
-  StoredNumbers(const KYRStoreModel& model, Listing listing);
+  enum class Use { alone, shared };
+  /// Numbers all that the model holds, from 1. The model must not change while the numbers are used, and
+  /// unless their use is `shared`, which makes `get` slower, nobody else may number it meanwhile.
+  StoredNumbers(const KYRStoreModel& model, Use use);
   /// 0 for null and for an object that the model does not hold.
   unsigned int get(const KYRObject* object) const noexcept;
   /// Asks memory for what `get` will read of an object, or of null.
   void prefetch(const KYRObject* object) const noexcept { __builtin_prefetch(scratchOf(object)); }
-  /// The object of a number from 1 to `getCount()`, if they are listed.
+  /// The object of a number from 1 to `getCount()`.
   const KYRObject* at(unsigned int number) const { return objects_[number - 1]; }
-  unsigned int getCount() const noexcept { return count_; }
+  unsigned int getCount() const noexcept { return static_cast<unsigned int>(objects_.size()); }
 
  private:
   struct Numbering;
@@ -28,9 +27,8 @@ class KYR_EXPORT StoredNumbers {
   }
   // An object keeps its number itself, below the mark of the numbering it stems from. No mark is used
   // twice in a process but after two thousand million others, and none looks like a pointer, which may
-  // stand in the same place. Where the listing is shared it tells the numbers from those of others.
+  // stand in the same place. Where their use is shared the list tells them from those of others.
   std::uint64_t mark_;
-  unsigned int count_ = 0;
   bool isShared_;
   BlockArray<const KYRObject*> objects_;
 };

@@ -445,7 +445,7 @@ TEST(StringHashCode, IdsWithALongCommonPrefixHardlyEverMeet) {
        {"", "_", "EAID_", "_17_0_2_3_f7102b3_1371654987000_", "EAID_4A1B2C3D_5E6F_4a7b_8C9D_"}) {
     std::set<unsigned int> codes;
     for (int i = 0; i < 100000; ++i) codes.insert((KYRString(prefix) + KYRString(i)).hashCode());
-    // Chance alone makes one or two of 100,000 meet, one seed in some hundreds twenty.
+    // Chance makes one or two of 100,000 meet; with a rare seed about twenty do.
     EXPECT_GT(codes.size(), 99900U) << prefix;
   }
 }

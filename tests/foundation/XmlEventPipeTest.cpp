@@ -99,7 +99,7 @@ TEST(XmlEventPipe, WhatTheListenerRaisesEndsBothThreads) {
   }
 }
 
-// Each element once, in order, and never when it has started already.
+// Most elements, each once, in order, and never when it has started already.
 TEST(XmlEventPipe, ElementsAreExpectedBeforeTheyStart) {
   class Expecting : public Follower {
    public:

@@ -26,7 +26,7 @@ struct Surveyed {
     loss = survey.compare(file.file(), saved, false);
   }
   TemporaryFile file;
-  LossSurvey survey{"shop.xmi"};
+  LossSurvey survey{"shop.xmi", false};
   std::optional<LossSurvey::Loss> loss;
 };
 
@@ -79,7 +79,7 @@ TEST(LossSurvey, TheDocumentIsLetGoWhenTheRulesAreThrough) {
     std::string xml;
     for (int i = 0; i < classes; ++i) xml += element("Class", "xmi:id='c" + std::to_string(i) + "' name='C'");
     const TemporaryFile file(xmi(xml));
-    LossSurvey survey("shop.xmi");
+    LossSurvey survey("shop.xmi", false);
     std::shared_ptr<const XmlDocument> document = readXmlFile(file.file(), nullptr, false);
     const std::weak_ptr<const XmlDocument> watched = document;
     survey.rewrite(document);
@@ -92,11 +92,22 @@ TEST(LossSurvey, TheDocumentIsLetGoWhenTheRulesAreThrough) {
   }
 }
 
+TEST(LossSurvey, TheDocumentStaysForAnImportThatReadsItsFileAgain) {
+  const TemporaryFile file(xmi(twoClasses));
+  LossSurvey survey("shop.xmi", true);
+  std::shared_ptr<const XmlDocument> document = readXmlFile(file.file(), nullptr, false);
+  const std::weak_ptr<const XmlDocument> watched = document;
+  survey.rewrite(document);
+  document.reset();
+  ASSERT_FALSE(watched.expired());
+  EXPECT_EQ(readXmlFile(file.file(), nullptr, false), watched.lock());
+}
+
 // What a rule would cure is read once more later on, which takes memory; that tells that the rules were run.
 TEST(LossSurvey, ADocumentThatIsReadAgainIsNotLookedAtAgain) {
   const TemporaryFile file(xmi("<nestedPackage xmi:id='p'>" + twoClasses + "</nestedPackage>"));
   const auto document = readXmlFile(file.file(), nullptr, false);
-  LossSurvey survey("shop.xmi");
+  LossSurvey survey("shop.xmi", false);
   MemoryAtEnd::leaveToSystem(true);
   EXPECT_EQ(survey.rewrite(document), document);
   EXPECT_FALSE(MemoryAtEnd::isLeftToSystem());
@@ -107,7 +118,7 @@ TEST(LossSurvey, ADocumentThatIsReadAgainIsNotLookedAtAgain) {
 }
 
 TEST(LossSurvey, AFileThatIsGoneMeanwhileTakesNothingFromTheImport) {
-  LossSurvey survey("shop.xmi");
+  LossSurvey survey("shop.xmi", false);
   TemporaryFile file(xmi("<nestedPackage xmi:id='p'>" + twoClasses + "</nestedPackage>"));
   {
     const XmlRewriting rewriting(file.file(), survey);
@@ -119,7 +130,7 @@ TEST(LossSurvey, AFileThatIsGoneMeanwhileTakesNothingFromTheImport) {
 }
 
 TEST(LossSurvey, SaysNothingOfAFileThatItHasNotSeen) {
-  LossSurvey survey("shop.xmi");
+  LossSurvey survey("shop.xmi", false);
   EXPECT_FALSE(survey.compare(KYRFile("none"), {}, false).has_value());
 }
 

@@ -44,6 +44,26 @@ TEST(IdRule, WhatMakesNoObjectOrStandsForAnotherFileGetsNone) {
   }
 }
 
+// More than are looked at ahead.
+TEST(IdRule, ManyObjectsGetTheirIdsEachItsOwn) {
+  std::string given;
+  std::string expected;
+  for (int at = 0; at < 40; ++at) {
+    const std::string line = std::to_string(at + 2);
+    const std::string id = at % 5 == 3 ? "" : " xmi:id='c" + std::to_string(at % 5 == 4 ? 0 : at) + "'";
+    const std::string start = "\n<packagedElement xmi:type='uml:Class' name='C" + line + "'";
+    given += start;
+    given += id + "/>";
+    expected += start;
+    expected += at % 5 < 3 ? id : " xmi:id='kyr_" + line + "_1'";
+    expected += "/>";
+  }
+  const auto model = [](const std::string& classes) {
+    return "<uml:Model xmi:id='m'>" + classes + "</uml:Model>";
+  };
+  EXPECT_EQ(changed(model(given), 16), plain(model(expected)));
+}
+
 TEST(IdRule, ASecondBearerIsRenamedWhenItIsAnotherElement) {
   const std::string first = "<packagedElement xmi:type='uml:Class' xmi:id='c' name='C'/>";
   const struct {

@@ -29,7 +29,7 @@ TEST(GraphvizText, NoNameOfTheModelIsPassedOn) {
   TiedModel model;
   KYRClass& own = model.addClass("Order");
   for (const std::string& name : hostile) model.associate(own, model.addClass(name), name, name);
-  const StoredNumbers numbers(model.get(), StoredNumbers::Listing::shared);
+  const StoredNumbers numbers(model.get(), StoredNumbers::Use::shared);
   const std::string text = toGraphviz(makeNeighbourhood(own, numbers));
   EXPECT_LT(text.size(), 2000U);
   for (const char* const part : {"\"];}", "a\n", "\\", "nul", "<<<"})

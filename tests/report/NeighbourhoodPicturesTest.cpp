@@ -174,7 +174,7 @@ class RealGraphviz : public NeighbourhoodPicturesTest {
   }
   Laid layOutReally() { return pictures.layOut(model.get(), program_, bounds); }
   std::vector<std::int64_t> pictureOf(const KYRClass& class_) const {
-    const StoredNumbers numbers(model.get(), StoredNumbers::Listing::shared);
+    const StoredNumbers numbers(model.get(), StoredNumbers::Use::shared);
     rapidjson::Document document;
     document.Parse(pictures.getJson().c_str());
     return numbersIn(document[std::to_string(numbers.get(&class_)).c_str()].GetString());

@@ -16,7 +16,7 @@ using Drawn = std::tuple<Tie, std::string, std::string>;
 class NeighbourhoodTest : public testing::Test {
  protected:
   Neighbourhood around(const KYRClass& class_) {
-    numbers_ = std::make_unique<StoredNumbers>(model.get(), StoredNumbers::Listing::shared);
+    numbers_ = std::make_unique<StoredNumbers>(model.get(), StoredNumbers::Use::shared);
     return makeNeighbourhood(class_, *numbers_);
   }
   std::vector<Drawn> linesAround(const KYRClass& class_) {
@@ -76,7 +76,7 @@ TEST_F(NeighbourhoodTest, RolesAreThoseOfTheEndsOfTheLine) {
   KYRClass& other = model.addClass("Line");
   const KYRAssociation& association = model.associate(own, other, "order", "lines");
   for (const KYRClass* const class_ : {&own, &other}) {
-    const StoredNumbers numbers(model.get(), StoredNumbers::Listing::shared);
+    const StoredNumbers numbers(model.get(), StoredNumbers::Use::shared);
     const Neighbourhood neighbourhood = makeNeighbourhood(*class_, numbers);
     ASSERT_EQ(neighbourhood.lines.size(), 1U);
     const Neighbourhood::Line& line = neighbourhood.lines.front();

@@ -23,19 +23,20 @@ class StoredNumbersTest : public testing::Test {
 };
 
 TEST_F(StoredNumbersTest, NumbersFollowTheDocument) {
-  for (const auto listing :
-       {StoredNumbers::Listing::none, StoredNumbers::Listing::alone, StoredNumbers::Listing::shared}) {
-    const StoredNumbers numbers(model_, listing);
+  for (const auto use : {StoredNumbers::Use::alone, StoredNumbers::Use::shared}) {
+    const StoredNumbers numbers(model_, use);
     EXPECT_EQ(numbers.getCount(), 4U);
     EXPECT_EQ(numbers.get(&model_), 1U);
     for (unsigned int i = 0; i < 3; ++i) EXPECT_EQ(numbers.get(packages_[i]), i + 2);
   }
 }
 
-TEST_F(StoredNumbersTest, ListedObjectsAreFoundByTheirNumber) {
-  const StoredNumbers numbers(model_, StoredNumbers::Listing::shared);
-  EXPECT_EQ(numbers.at(1), &model_);
-  EXPECT_EQ(numbers.at(4), packages_[2]);
+TEST_F(StoredNumbersTest, ObjectsAreFoundByTheirNumber) {
+  for (const auto use : {StoredNumbers::Use::alone, StoredNumbers::Use::shared}) {
+    const StoredNumbers numbers(model_, use);
+    EXPECT_EQ(numbers.at(1), &model_);
+    EXPECT_EQ(numbers.at(4), packages_[2]);
+  }
 }
 
 TEST_F(StoredNumbersTest, WhatTheModelDoesNotHoldHasNone) {
@@ -43,10 +44,9 @@ TEST_F(StoredNumbersTest, WhatTheModelDoesNotHoldHasNone) {
   auto* const foreign = new KYRDesignPackage();
   other.addDesignPackage(foreign);
   const KYRDesignPackage alone;
-  for (const auto listing :
-       {StoredNumbers::Listing::none, StoredNumbers::Listing::alone, StoredNumbers::Listing::shared}) {
-    const StoredNumbers foreignNumbers(other, listing);
-    const StoredNumbers numbers(model_, listing);
+  for (const auto use : {StoredNumbers::Use::alone, StoredNumbers::Use::shared}) {
+    const StoredNumbers foreignNumbers(other, use);
+    const StoredNumbers numbers(model_, use);
     EXPECT_EQ(numbers.get(nullptr), 0U);
     EXPECT_EQ(numbers.get(&alone), 0U);
     EXPECT_EQ(numbers.get(foreign), 0U);
@@ -56,9 +56,9 @@ TEST_F(StoredNumbersTest, WhatTheModelDoesNotHoldHasNone) {
 }
 
 // As in a comparison of a model with itself.
-TEST_F(StoredNumbersTest, TwoListingsOfAModelStandSideBySide) {
-  const StoredNumbers first(model_, StoredNumbers::Listing::shared);
-  const StoredNumbers second(model_, StoredNumbers::Listing::shared);
+TEST_F(StoredNumbersTest, TwoNumberingsOfAModelStandSideBySide) {
+  const StoredNumbers first(model_, StoredNumbers::Use::shared);
+  const StoredNumbers second(model_, StoredNumbers::Use::shared);
   EXPECT_EQ(first.get(packages_[1]), 3U);
   EXPECT_EQ(second.get(packages_[1]), 3U);
 }

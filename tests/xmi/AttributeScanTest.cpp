@@ -34,6 +34,16 @@ TEST(GetAttribute, AMatchOnTheLastEntryAnswersTheEmptyText) {
   EXPECT_EQ(XMIParser::getAttribute(attributes, "name").view(), "");
 }
 
+TEST(ReaderNames, TellAttributesThatHoldIds) {
+  const ReaderNames& names = ReaderNames::get();
+  for (const char* name : {"xmi:id", "xmi:idref", "type", "TYPE", "memberEnd", "supplier", "general"}) {
+    EXPECT_TRUE(names.holdsId(names.findIgnoringCase(name))) << name;
+  }
+  for (const char* name : {"name", "visibility", "xmi:type", "isAbstract", "nobody asks for this"}) {
+    EXPECT_FALSE(names.holdsId(names.findIgnoringCase(name))) << name;
+  }
+}
+
 TEST(AttributeScan, AnswersAsTheWalkDoesForEveryNameAndManyLists) {
   const ReaderNames& names = ReaderNames::get();
   std::minstd_rand engine(7);

@@ -38,9 +38,25 @@ TEST_F(ComingIdsTest, IdsAreFoundUnderTheNumberThatTheyHave) {
   }
   for (std::size_t at = 0; at < texts_.size(); ++at) {
     coming_.expect(texts_[at]);
-    EXPECT_EQ(ids_.intern(texts_[at]), numbers[at]);
+    EXPECT_EQ(ids_.intern(texts_[at], IdTable::hashOf(texts_[at])), numbers[at]);
     EXPECT_EQ(ids_.getText(numbers[at]).view(), texts_[at].view());
   }
+}
+
+TEST_F(ComingIdsTest, ExpectedIdsAreHashedOnce) {
+  constexpr std::size_t ahead = 12;
+  for (std::size_t at = 0; at < texts_.size(); ++at) {
+    coming_.expect(texts_[at]);
+    if (at >= ahead) coming_.hashOf(texts_[at - ahead]);
+  }
+  EXPECT_LT(coming_.getComputedCount(), texts_.size() / 5);
+  coming_.hashOf(texts_.back());
+  const std::uint64_t before = coming_.getComputedCount();
+  coming_.hashOf(texts_.back());
+  EXPECT_EQ(coming_.getComputedCount(), before);
+  coming_.forget();
+  coming_.hashOf(texts_.back());
+  EXPECT_EQ(coming_.getComputedCount(), before + 1);
 }
 
 TEST_F(ComingIdsTest, TheEmptyIdIsNoId) {
