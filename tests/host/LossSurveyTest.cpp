@@ -73,6 +73,13 @@ TEST(LossSurvey, ALargeFileIsLookedAtWhileTheImportGoesOn) {
   EXPECT_EQ(surveyed.loss->classes, 10000U);
 }
 
+// The document of a file that a survey has been given, and that nobody else holds.
+std::weak_ptr<const XmlDocument> watchedDocument(LossSurvey& survey, const TemporaryFile& file) {
+  const std::shared_ptr<const XmlDocument> document = readXmlFile(file.file(), nullptr, false);
+  survey.rewrite(document);
+  return document;
+}
+
 // It takes as much memory as the file, and the import is not over yet.
 TEST(LossSurvey, TheDocumentIsLetGoWhenTheRulesAreThrough) {
   for (const int classes : {2, 11000}) {  // on the calling thread, and on another one
@@ -80,14 +87,11 @@ TEST(LossSurvey, TheDocumentIsLetGoWhenTheRulesAreThrough) {
     for (int i = 0; i < classes; ++i) xml += element("Class", "xmi:id='c" + std::to_string(i) + "' name='C'");
     const TemporaryFile file(xmi(xml));
     LossSurvey survey("shop.xmi", false);
-    std::shared_ptr<const XmlDocument> document = readXmlFile(file.file(), nullptr, false);
-    const std::weak_ptr<const XmlDocument> watched = document;
-    survey.rewrite(document);
-    document.reset();
-    for (int i = 0; !watched.expired() && i < 5000; ++i) {
+    const std::weak_ptr<const XmlDocument> document = watchedDocument(survey, file);
+    for (int i = 0; !document.expired() && i < 5000; ++i) {
       std::this_thread::sleep_for(std::chrono::milliseconds(1));
     }
-    EXPECT_TRUE(watched.expired()) << classes;
+    EXPECT_TRUE(document.expired()) << classes;
     EXPECT_FALSE(survey.compare(file.file(), {}, false).has_value());
   }
 }
@@ -95,12 +99,9 @@ TEST(LossSurvey, TheDocumentIsLetGoWhenTheRulesAreThrough) {
 TEST(LossSurvey, TheDocumentStaysForAnImportThatReadsItsFileAgain) {
   const TemporaryFile file(xmi(twoClasses));
   LossSurvey survey("shop.xmi", true);
-  std::shared_ptr<const XmlDocument> document = readXmlFile(file.file(), nullptr, false);
-  const std::weak_ptr<const XmlDocument> watched = document;
-  survey.rewrite(document);
-  document.reset();
-  ASSERT_FALSE(watched.expired());
-  EXPECT_EQ(readXmlFile(file.file(), nullptr, false), watched.lock());
+  const std::weak_ptr<const XmlDocument> document = watchedDocument(survey, file);
+  ASSERT_FALSE(document.expired());
+  EXPECT_EQ(readXmlFile(file.file(), nullptr, false), document.lock());
 }
 
 // What a rule would cure is read once more later on, which takes memory; that tells that the rules were run.
